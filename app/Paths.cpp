@@ -1,0 +1,62 @@
+#include "app/Paths.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace Brontel::App {
+
+namespace {
+
+using FX::FXString;
+using std::filesystem::path;
+
+// An empty variable is as good as none.
+FXString variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? FXString() : FXString(value);
+}
+
+FXString besideProgram(const char* folder) {
+  std::error_code error;
+  const path program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return (program.parent_path().parent_path() / folder).c_str();
+}
+
+bool makeFolder(const path& folder) {
+  std::error_code error;
+  if (folder.empty() || std::filesystem::is_directory(folder, error)) return true;
+  if (!makeFolder(folder.parent_path())) return false;
+  // Somebody else may have made it meanwhile.
+  return mkdir(folder.c_str(), 0700) == 0 || std::filesystem::is_directory(folder, error);
+}
+
+}  // namespace
+
+FXString findDatabase(const FXString& given) {
+  if (!given.empty()) return given;
+  const FXString data = variable("XDG_DATA_HOME");
+  // The variable is to be ignored unless it names an absolute path.
+  const path folder = path(data.text()).is_absolute()
+                          ? path(data.text())
+                          : path(FX::FXSystem::getHomeDirectory().text()) / ".local" / "share";
+  return (folder / "brontel" / "brontel.db").c_str();
+}
+
+FXString findPluginDirectory(const FXString& given) {
+  if (!given.empty()) return given;
+  const FXString named = variable("BRONTEL_PLUGIN_PATH");
+  return named.empty() ? besideProgram("lib/brontel/plugins") : named;
+}
+
+FXString findLocaleDirectory() {
+  const FXString named = variable("BRONTEL_LOCALE_PATH");
+  return named.empty() ? besideProgram("share/locale") : named;
+}
+
+bool makeFolderOf(const FXString& file) {
+  return makeFolder(path(file.text()).parent_path());
+}
+
+}  // namespace Brontel::App

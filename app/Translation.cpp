@@ -1,0 +1,34 @@
+#include "app/Translation.h"
+
+#include <clocale>
+#include <cstring>
+#include <langinfo.h>
+
+#include <libintl.h>
+
+namespace Brontel::App {
+
+namespace {
+
+constexpr const char* kDomain = "brontel-host";
+constexpr const char* kPlainLocale = "C.UTF-8";
+
+bool hasUtf8Locale() {
+  const bool known = setlocale(LC_CTYPE, "") != nullptr && setlocale(LC_MESSAGES, "") != nullptr;
+  return known && std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0;
+}
+
+}  // namespace
+
+void prepareTranslation(const FX::FXString& localeDirectory) {
+  if (!hasUtf8Locale()) {
+    // A system without it has the texts in Hungarian.
+    static_cast<void>(setlocale(LC_CTYPE, kPlainLocale));
+    static_cast<void>(setlocale(LC_MESSAGES, kPlainLocale));
+  }
+  bindtextdomain(kDomain, localeDirectory.text());
+  bind_textdomain_codeset(kDomain, "UTF-8");
+  textdomain(kDomain);
+}
+
+}  // namespace Brontel::App

@@ -1,0 +1,77 @@
+#include "bench/Workload.h"
+
+#include "host/entity/EntityTables.h"
+#include "itemdata/ItemDataList.h"
+
+using Brontel::Invoice;
+using Brontel::InvoiceItem;
+using Brontel::InvoiceRepository;
+using Brontel::Plugin::ItemData::ItemDataContainer;
+using Brontel::Plugin::ItemData::ItemDataEntry;
+using Brontel::Plugin::ItemData::ItemDataList;
+using FX::FXint;
+
+Workload::Workload(Brontel::Morvane& app, const FX::FXString& file) : app_(app) {
+  database_.open(file, MorvaneDatabase::OpenMode::Create);
+  app_.setDB(&database_);
+  Brontel::Model::initEntityTables(&database_);
+  database_.setForeignKeys(true);
+  container_ = std::make_unique<ItemDataContainer>(&app_);
+  container_->init();
+  plugins_.add(container_.get());
+  invoices_ = std::make_unique<InvoiceRepository>(database_, plugins_);
+  database_.run("insert into t_product(t_product_id,code,name,unit) values(1,'P','Product','db')");
+  database_.run(
+      "insert into t_itemvariable(t_itemvariable_id,name,type,process,mandatory,vvalue) values"
+      "(10,'Serial number',1,1,1,null),(11,'Expiry',2,1,0,null),(12,'Colour',3,1,0,'red,green,blue')");
+  database_.run(
+      "insert into t_productitemdata(t_product_1,t_itemvariable_1,position,direction) values"
+      "(1,10,1,100),(1,11,2,100),(1,12,3,100)");
+}
+
+Workload::~Workload() {
+  plugins_.remove(container_.get());
+  container_.reset();
+  app_.setDB(nullptr);
+}
+
+std::unique_ptr<Invoice> Workload::makeInvoice(int rows) {
+  auto invoice = std::make_unique<Invoice>();
+  invoice->setTypeCode(101);
+  invoice->setNumber("B-1");
+  auto* item = new InvoiceItem;
+  item->setGoods(Brontel::GOODS_PRODUCT, 1);
+  item->setName("Product");
+  item->setUnit("db");
+  item->setQuantity(FXExt::FXDecimal(rows, 0, 4));
+  invoice->appendItem(item);
+  invoices_->loadPluginData(*invoice);
+  ItemDataList* list = ItemDataList::of(item);
+  list->addRows(rows);
+  for (FXint i = 0; i < list->no(); ++i) {
+    ItemDataEntry* entry = list->at(i);
+    entry->value = entry->itemvariable == -1   ? FX::FXString("1")
+                   : entry->itemvariable == 10 ? "SN" + FX::FXStringVal(100000 + i)
+                   : entry->itemvariable == 11 ? FX::FXString("2027.05.31")
+                                               : FX::FXString("green");
+  }
+  return invoice;
+}
+
+int Workload::saveInvoice(int rows) {
+  const std::unique_ptr<Invoice> invoice = makeInvoice(rows);
+  return save(*invoice) ? invoice->getId() : 0;
+}
+
+std::unique_ptr<Invoice> Workload::load(int invoice) {
+  InvoiceRepository::Result result = InvoiceRepository::Result::Done;
+  return invoices_->load(invoice, result);
+}
+
+bool Workload::save(Invoice& invoice) {
+  return invoices_->save(invoice) == InvoiceRepository::Result::Done;
+}
+
+void Workload::removeAll() {
+  database_.run("delete from t_invoice");
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/database/Statement.h"
+
+/// Inserts one row: every bound parameter is a column of it, in binding order; the others stay NULL or get their key.
+/// Without any bound parameter the row holds nothing but its key and the columns' defaults. With one whose name is no
+/// plain identifier nothing is inserted.
+class InsertStatement : public Statement {
+ public:
+  InsertStatement(MorvaneDatabase* db, const FX::FXString& table);
+
+ protected:
+  FX::FXString buildSql() const override;
+
+ private:
+  FX::FXString table_;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/database/BoundValue.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+class DataBaseValueLoader;
+
+namespace Brontel::Database {
+
+/// One compiled statement of a connection. It can be run any number of times, but not while it is running; it must be
+/// destroyed before the connection closes.
+class PreparedStatement {
+ public:
+  /// Compiles sql, whose parameters are written %name. Null when the engine refuses it or when the text holds more than
+  /// one statement, since only the first would run; code then holds SQLite's result.
+  static std::unique_ptr<PreparedStatement> prepare(sqlite3* connection, const FX::FXString& sql, int& code);
+
+  PreparedStatement(const PreparedStatement&) = delete;
+  PreparedStatement& operator=(const PreparedStatement&) = delete;
+  ~PreparedStatement();
+
+  /// Binds the values by name (a parameter without value is NULL, a value without parameter is ignored), runs to the
+  /// end or until the loader asks to stop, and resets. Returns SQLite's result: SQLITE_DONE, SQLITE_ROW when the loader
+  /// stopped it, or an error. The loader may be null.
+  int run(const BoundValues& values, DataBaseValueLoader* loader);
+
+  /// True while run is under way, for example when a loader runs further statements.
+  bool isRunning() const { return running_; }
+
+ private:
+  PreparedStatement(sqlite3_stmt* statement, std::vector<std::string> parameters);
+
+  int bind(const BoundValues& values);
+  int step(DataBaseValueLoader* loader);
+  bool deliverRow(DataBaseValueLoader& loader) const;
+
+  sqlite3_stmt* statement_;  // owned; the destructor finalizes it
+  std::vector<std::string> parameters_;
+  bool running_ = false;
+};
+
+}  // namespace Brontel::Database

@@ -1,0 +1,60 @@
+#include "host/xml/Document.h"
+
+#include <cstring>
+#include <string>
+
+#include <libxml/tree.h>
+
+#include "host/xml/XmlText.h"
+
+namespace XMLBuilder {
+
+using FX::FXString;
+
+namespace {
+
+const xmlChar* bytes(const char* text) {
+  return reinterpret_cast<const xmlChar*>(text);
+}
+
+}  // namespace
+
+Document::Document(const FXString& rootName) : document_(xmlNewDoc(bytes("1.0"))) {
+  xmlNode* root = xmlNewDocNode(document_, nullptr, bytes(cleanText(rootName).c_str()), nullptr);
+  xmlDocSetRootElement(document_, root);
+  adopt(root);
+}
+
+Document::~Document() {
+  xmlFreeDoc(document_);
+}
+
+void Document::addNamespace(const FXString& prefix, const FXString& uri) {
+  if (prefix.empty() || uri.empty()) return;
+  // xmlNewNs refuses a prefix that the element has already.
+  xmlNewNs(xmlDocGetRootElement(document_), bytes(uri.text()), bytes(prefix.text()));
+}
+
+FXString Document::toText() const {
+  xmlChar* text = nullptr;
+  int length = 0;
+  xmlDocDumpFormatMemoryEnc(document_, &text, &length, "UTF-8", 1);
+  const FXString result(reinterpret_cast<const char*>(text), length);
+  xmlFree(text);
+  return result;
+}
+
+Element* Document::adopt(_xmlNode* node) {
+  elements_.push_back(std::unique_ptr<Element>(new Element(this, node)));
+  return elements_.back().get();
+}
+
+_xmlNs* Document::findNamespace(const FXString& uri) const {
+  if (uri.empty()) return nullptr;
+  for (xmlNs* known = xmlDocGetRootElement(document_)->nsDef; known != nullptr; known = known->next) {
+    if (std::strcmp(reinterpret_cast<const char*>(known->href), uri.text()) == 0) return known;
+  }
+  return nullptr;
+}
+
+}  // namespace XMLBuilder

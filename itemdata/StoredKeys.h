@@ -1,0 +1,47 @@
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+#include <fx.h>
+
+#include "itemdata/CellKeys.h"
+#include "itemdata/ItemDataList.h"
+
+class MorvaneDatabase;
+
+namespace Brontel::Plugin::ItemData {
+
+/// Keeps a list's keys true around a save. A cell does not learn the key of the row that it inserts, and a rolled-back
+/// save leaves keys of rows that never came to be; saving again would then store cells twice, lose them, or touch the
+/// rows of another item that has got the key meanwhile.
+class StoredKeys {
+ public:
+  /// Reads which rows the table holds for the list's item. When that fails, the list keeps the keys it has: a marked
+  /// cell that lost its key could never be deleted again.
+  StoredKeys(MorvaneDatabase* db, const ItemDataList& list);
+
+  /// Before the cells are written: a key that the table does not hold for the cell's variable and row, or that another
+  /// cell holds, live ones first, is dropped, and a live cell without key takes a free one.
+  void repair(ItemDataList& list);
+
+  /// After they have been written: a live cell without key takes that of its row. Should a row that was to be deleted
+  /// still stand beside it, it is the older one and stays with the marked cell.
+  void assign(ItemDataList& list);
+
+ private:
+  struct Stored {
+    CellKey cell = 0;
+    bool held = false;
+  };
+  class Loader;
+
+  void holdKeys(ItemDataList& list, bool live, bool dropFalse);
+  void takeFreeKeys(ItemDataList& list);
+
+  bool known_ = false;                                          // whether the table could be read
+  std::unordered_map<FX::FXint, Stored> stored_;                // by key
+  std::unordered_map<CellKey, std::vector<FX::FXint>> keysOf_;  // of each cell, ascending
+};
+
+}  // namespace Brontel::Plugin::ItemData

@@ -1,0 +1,59 @@
+#include "plugin/ItemDataContainer.h"
+
+#include <libintl.h>
+
+#include "host/ui/Morvane.h"
+#include "itemdata/Codes.h"
+#include "model/InitDB.h"
+#include "plugin/InvoiceCheck.h"
+#include "plugin/InvoiceItemPlugin.h"
+#include "plugin/ItemDataIcons.h"
+#include "plugin/Prototypes.h"
+
+namespace Brontel::Plugin::ItemData {
+
+namespace {
+
+// How the host orders the contributions of several plug-ins.
+constexpr int kWeight = 103;
+
+}  // namespace
+
+ItemDataContainer::ItemDataContainer(Morvane* app)
+    : PluginContainer(app, kTextDomain, "Egyéb tételadatok", "2013.01.02",
+                      "Lehetőséget biztosít arra, hogy bizonyos áruk számlázásakor egyéb (saját) adatot is nyomtassunk "
+                      "a számlára.\n") {
+  flag_ = false;
+  name_ = dgettext(kTextDomain, name_.text());
+  description_ = dgettext(kTextDomain, description_.text());
+  icon16_ = makeIcon(app, icon_itemdata);
+}
+
+ItemDataContainer::~ItemDataContainer() {
+  Prototypes::remove(this);
+  delete icon16_;
+}
+
+FX::FXIcon* ItemDataContainer::getIcon16() {
+  return icon16_;
+}
+
+int ItemDataContainer::init() {
+  if (!Prototypes::isRegistered(this)) {
+    modules_.append(new InvoiceCheck(this));
+    modules_.append(new InvoiceItemPlugin(this, kWeight, kWeight, 0, kWeight, kWeight));
+    Prototypes::add(this);
+  }
+  if (getApp() != nullptr) Model::initDB(getApp()->getDB());
+  return 1;
+}
+
+long ItemDataContainer::onSettings(FX::FXObject*, FX::FXSelector, void*) {
+  return 1;
+}
+
+long ItemDataContainer::onHasSettings(FX::FXObject*, FX::FXSelector, void*) {
+  return 1;
+}
+
+}  // namespace Brontel::Plugin::ItemData

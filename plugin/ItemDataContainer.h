@@ -1,0 +1,28 @@
+#pragma once
+
+#include <fx.h>
+
+#include "host/plugin/PluginContainer.h"
+
+namespace Brontel::Plugin::ItemData {
+
+/// The plug-in as the host sees it. Fills the registry of entry kinds and creates the tables when it is initialised.
+class ItemDataContainer : public PluginContainer {
+ public:
+  /// Without an application there is no icon and no database.
+  explicit ItemDataContainer(Morvane* app);
+  /// Deletes the prototypes that it registered; the last container deletes all that are left.
+  ~ItemDataContainer() override;
+
+  FX::FXIcon* getIcon16() override;
+  /// Always 1: missing tables show as missing data and are tried again at the next start. Again on the same container
+  /// it only looks after the tables.
+  int init() override;
+  long onSettings(FX::FXObject*, FX::FXSelector, void*) override;
+  long onHasSettings(FX::FXObject*, FX::FXSelector, void*) override;
+
+ private:
+  FX::FXIcon* icon16_ = nullptr;  // owned
+};
+
+}  // namespace Brontel::Plugin::ItemData
