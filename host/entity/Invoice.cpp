@@ -1,5 +1,7 @@
 #include "host/entity/Invoice.h"
 
+#include <algorithm>
+
 namespace Brontel {
 
 using FX::FXint;
@@ -19,6 +21,12 @@ void Invoice::appendItem(InvoiceItem* item) {
   if (item == nullptr) return;
   item->setInvoice(this);
   items_.append(item);
+}
+
+void Invoice::insertItem(int index, InvoiceItem* item) {
+  if (item == nullptr) return;
+  item->setInvoice(this);
+  items_.insert(std::clamp(index, 0, static_cast<int>(items_.no())), item);
 }
 
 void Invoice::removeItem(int index) {

@@ -55,6 +55,8 @@ class Invoice : public Entity {
   const FX::FXObjectListOf<InvoiceItem>& getItems() const { return items_; }
   /// Takes the item over; null is ignored.
   void appendItem(InvoiceItem* item);
+  /// The same at a place between the others; an index outside the list means its nearer end.
+  void insertItem(int index, InvoiceItem* item);
   /// Takes the item at that index out and deletes it; one that is stored is kept aside instead, so that the next save
   /// can delete its row. An index outside the list does nothing.
   void removeItem(int index);

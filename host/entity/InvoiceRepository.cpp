@@ -93,6 +93,19 @@ InvoiceRepository::Result InvoiceRepository::changeStatus(Invoice& invoice, int 
   return Result::Done;
 }
 
+InvoiceRepository::Result InvoiceRepository::remove(Invoice& invoice) {
+  if (invoice.isStatusClosed()) return Result::ReadOnly;
+  Transaction transaction(database_);
+  if (!transaction.isOpen()) return Result::Failed;
+  for (FXint i = 0; i < invoice.getItems().no(); ++i) deleteItem(*invoice.getItems()[i]);
+  deleteRemovedItems(invoice);
+  const Database::BoundValues values{BoundValue{"t_invoice_id", false, invoice.getId(), {}},
+                                     BoundValue{"loaded_version", false, invoice.getVersion(), {}}};
+  if (!database_.run(FX::FXString("delete from t_invoice where ") + kThisVersion, values)) return Result::Failed;
+  if (database_.changes() != 1) return Result::Overtaken;
+  return transaction.commit() ? Result::Done : Result::Failed;
+}
+
 InvoiceRepository::Result InvoiceRepository::write(Invoice& invoice) {
   const Result head = writeHead(invoice);
   if (head != Result::Done) return head;
@@ -127,13 +140,14 @@ InvoiceRepository::Result InvoiceRepository::writeHead(Invoice& invoice) {
 }
 
 void InvoiceRepository::deleteRemovedItems(Invoice& invoice) {
-  for (FXint i = 0; i < invoice.getRemovedItems().no(); ++i) {
-    InvoiceItem* item = invoice.getRemovedItems()[i];
-    plugins_.del(item);
-    DeleteStatement statement(&database_, "t_invoiceitem");
-    statement.setInt("t_invoiceitem_id", item->getId());
-    statement.execute(nullptr, 1);
-  }
+  for (FXint i = 0; i < invoice.getRemovedItems().no(); ++i) deleteItem(*invoice.getRemovedItems()[i]);
+}
+
+void InvoiceRepository::deleteItem(InvoiceItem& item) {
+  plugins_.del(&item);
+  DeleteStatement statement(&database_, "t_invoiceitem");
+  statement.setInt("t_invoiceitem_id", item.getId());
+  statement.execute(nullptr, 1);
 }
 
 void InvoiceRepository::writeItem(InvoiceItem& item, int position) {

@@ -42,10 +42,15 @@ class InvoiceRepository {
   /// Changes the status of a stored invoice and nothing else.
   Result changeStatus(Invoice& invoice, int status);
 
+  /// Deletes a stored invoice with its items and what the plug-ins keep for them; only open ones may go. The object
+  /// stays as it is.
+  Result remove(Invoice& invoice);
+
  private:
   Result write(Invoice& invoice);
   Result writeHead(Invoice& invoice);
   void deleteRemovedItems(Invoice& invoice);
+  void deleteItem(InvoiceItem& item);
   void writeItem(InvoiceItem& item, int position);
 
   MorvaneDatabase& database_;

@@ -1,5 +1,7 @@
 #include <memory>
 
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "host/entity/Invoice.h"
@@ -73,6 +75,21 @@ TEST(InvoiceTest, ownsItsItemsInTheirOrder) {
     EXPECT_EQ(invoice.getItems()[1]->getInvoice(), &invoice);
   }
   EXPECT_EQ(living, 0);
+}
+
+TEST(InvoiceTest, takesAnItemInBetween) {
+  Invoice invoice;
+  invoice.insertItem(7, makeItem(1, "b"));
+  invoice.insertItem(0, makeItem(2, "a"));
+  invoice.insertItem(-3, makeItem(3, "first"));
+  invoice.insertItem(2, makeItem(4, "between"));
+  invoice.insertItem(0, nullptr);
+  std::string names;
+  for (int i = 0; i < invoice.getItems().no(); ++i) {
+    names.append(invoice.getItems()[i]->getName().text()).append(" ");
+    EXPECT_EQ(invoice.getItems()[i]->getInvoice(), &invoice);
+  }
+  EXPECT_EQ(names, "first a between b ");
 }
 
 TEST(InvoiceTest, deletesARemovedItemThatWasNeverStored) {
