@@ -1,0 +1,74 @@
+#include "app/window/Dialogs.h"
+
+#include <string>
+
+#include <libintl.h>
+
+#include "host/message/FillIn.h"
+
+namespace Brontel::App::Dialogs {
+
+using FX::FXString;
+using FX::FXuint;
+
+namespace {
+
+constexpr FX::FXint kLongestLine = 90;
+
+FXuint show(FX::FXWindow* owner, FXuint (*box)(FX::FXWindow*, FXuint, const FX::FXchar*, const FX::FXchar*, ...),
+            FXuint buttons, const FXString& title, const FXString& text) {
+  FX::FXWindow* above = owner != nullptr && owner->id() != 0 ? owner : FX::FXApp::instance()->getRootWindow();
+  return box(above, buttons, title.text(), "%s", wrapped(text).text());
+}
+
+}  // namespace
+
+void showError(FX::FXWindow* owner, const FXString& text) {
+  show(owner, FX::FXMessageBox::error, FX::MBOX_OK, gettext("Hiba"), text);
+}
+
+void showInformation(FX::FXWindow* owner, const FXString& title, const FXString& text) {
+  show(owner, FX::FXMessageBox::information, FX::MBOX_OK, title, text);
+}
+
+bool confirm(FX::FXWindow* owner, const FXString& title, const FXString& question) {
+  return show(owner, FX::FXMessageBox::question, FX::MBOX_YES_NO, title, question) == FX::MBOX_CLICKED_YES;
+}
+
+Answer askToSave(FX::FXWindow* owner, const FXString& question) {
+  const FXuint answer =
+      show(owner, FX::FXMessageBox::question, FX::MBOX_YES_NO_CANCEL, gettext("Mentetlen változások"), question);
+  if (answer == FX::MBOX_CLICKED_YES) return Answer::Yes;
+  return answer == FX::MBOX_CLICKED_NO ? Answer::No : Answer::Cancel;
+}
+
+FXString askForNewFile(FX::FXWindow* owner, const FXString& title, const FXString& suggestion,
+                       const FXString& patterns) {
+  const FXString file = FX::FXFileDialog::getSaveFilename(owner, title, suggestion, patterns);
+  if (file.empty() || !FX::FXStat::exists(file)) return file;
+  const FXString question = fillIn(gettext("Ez a fájl már létezik:\n%s\n\nFelülírja?"), {file});
+  return confirm(owner, title, question) ? file : FXString();
+}
+
+FXString wrapped(const FXString& text) {
+  FXString result;
+  FX::FXint length = 0;
+  FX::FXint blank = -1;  // in the result, on its last line
+  for (FX::FXint at = 0; at < text.length(); at = text.inc(at)) {
+    const FXString character = text.mid(at, text.inc(at) - at);
+    if (character == " ") blank = result.length();
+    result += character;
+    ++length;
+    if (character == "\n") {
+      length = 0;
+      blank = -1;
+    }
+    if (length <= kLongestLine || blank < 0) continue;
+    result.replace(blank, '\n');
+    length = result.count(blank + 1, result.length());
+    blank = -1;
+  }
+  return result;
+}
+
+}  // namespace Brontel::App::Dialogs
