@@ -27,9 +27,6 @@ class CommandRun {
 
  private:
   Outcome loadPlugins(const Command& command);
-  void forgetErrorsOfFailedPlugins();
-  void warnOfFailures() const;
-  Outcome checkQuantityVariable();
 
   const CommandLine& line_;
   Morvane& app_;

@@ -21,6 +21,12 @@ namespace {
 /// Raised when an older program could no longer use the tables.
 constexpr int kVersion = 1;
 
+// What a write-ahead journal holds is not in the file yet.
+bool hasWriteAheadJournal(const FXString& path) {
+  struct stat status {};
+  return stat((path + "-wal").text(), &status) == 0 && status.st_size > 0;
+}
+
 // An absolute path is never taken for one of SQLite's special names, such as :memory:.
 FXString absolute(const FXString& path) {
   return path.empty() || path[0] == '/' ? path : FX::FXSystem::getCurrentDirectory() + "/" + path;
@@ -62,7 +68,8 @@ bool HostDatabase::checkContent(Use use) {
   // interrupted program may have left half-written.
   struct stat status {};
   const int pageSize = handle_.queryInt("pragma page_size", 1, 0);
-  if (pageSize <= 0 || stat(handle_.getPath().text(), &status) != 0 || status.st_size % pageSize != 0) {
+  const bool isWhole = pageSize > 0 && stat(handle_.getPath().text(), &status) == 0 && status.st_size % pageSize == 0;
+  if (!isWhole && !hasWriteAheadJournal(handle_.getPath())) {
     handle_.fail(ErrorKind::Damaged, "the last page is not whole");
   }
   const int tables =
@@ -92,6 +99,7 @@ bool HostDatabase::checkVersion(Use use) {
 }
 
 bool HostDatabase::prepareTables(Use use) {
+  if (use == Use::Create || use == Use::Write) handle_.useWriteAheadJournal();
   if (use == Use::Create) Model::initEntityTables(&handle_);
   // Only now: the tables that references point to have to be there first.
   handle_.setForeignKeys(true);

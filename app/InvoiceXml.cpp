@@ -1,0 +1,66 @@
+#include "app/InvoiceXml.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <libintl.h>
+
+#include "app/HostDatabase.h"
+#include "app/OutputFile.h"
+#include "host/entity/Invoice.h"
+#include "host/message/FillIn.h"
+#include "host/plugin/PluginRegistry.h"
+#include "host/xml/Document.h"
+
+namespace Brontel::App {
+
+using FX::FXint;
+using FX::FXString;
+using FX::FXStringVal;
+
+namespace {
+
+void addItem(XMLBuilder::Element& items, InvoiceItem& item, int position, const Plugin::PluginRegistry& plugins) {
+  XMLBuilder::Element* element = items.createElement("item", "");
+  element->setAttribute("position", FXStringVal(position), "");
+  element->setAttribute("name", item.getName(), "");
+  element->setAttribute("goodskind", FXStringVal(item.getGoodsKind()), "");
+  element->setAttribute("goods", FXStringVal(item.getGoodsId()), "");
+  element->setAttribute("quantity", item.getQuantity().toString(), "");
+  element->setAttribute("unit", item.getUnit(), "");
+  element->setAttribute("price", item.getPrice(), "");
+  plugins.toXml(&item, element);
+}
+
+bool isSameFile(const FXString& one, const FXString& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(one.text(), other.text(), error);
+}
+
+}  // namespace
+
+FXString toXml(const Invoice& invoice, const Plugin::PluginRegistry& plugins) {
+  XMLBuilder::Document document("invoice");
+  XMLBuilder::Element* root = document.getRoot();
+  root->setAttribute("id", FXStringVal(invoice.getId()), "");
+  root->setAttribute("number", invoice.getNumber(), "");
+  root->setAttribute("type", FXStringVal(invoice.getTypeCode()), "");
+  root->setAttribute("status", FXStringVal(invoice.getStatus()), "");
+  root->setAttribute("partner", invoice.getPartner(), "");
+  root->setAttribute("date", invoice.getDate(), "");
+  if (invoice.getReferencedInvoiceId() != 0) {
+    root->setAttribute("reference", FXStringVal(invoice.getReferencedInvoiceId()), "");
+  }
+  XMLBuilder::Element* items = root->createElement("items", "");
+  for (FXint i = 0; i < invoice.getItems().no(); ++i) addItem(*items, *invoice.getItems()[i], i + 1, plugins);
+  return document.toText();
+}
+
+FXString writeExport(const FXString& file, const FXString& text, HostDatabase& database) {
+  if (isSameFile(file, database.handle().getPath())) {
+    return fillIn(gettext("Ez maga az adatbázis, nem írható felül: %s. Adjon meg másik fájlt."), {file});
+  }
+  return replaceFile(file, text);
+}
+
+}  // namespace Brontel::App
