@@ -30,7 +30,8 @@ int copyInto(sqlite3* target, sqlite3* source) {
 }  // namespace
 
 FX::FXString engineFileName(const FX::FXString& path) {
-  return path.left(1) == ":" ? "./" + path : path;
+  // Some builds of the engine take what begins with "file:" for a web address.
+  return path.left(1) == ":" || path.left(5) == "file:" ? "./" + path : path;
 }
 
 int backUp(sqlite3* source, const FX::FXString& path) {
@@ -38,6 +39,8 @@ int backUp(sqlite3* source, const FX::FXString& path) {
   sqlite3* target = nullptr;
   int code = sqlite3_open_v2(engineFileName(path).text(), &target, SQLITE_OPEN_READWRITE, nullptr);
   if (code == SQLITE_OK) code = copyInto(target, source);
+  // The copy is one file that can be read anywhere, whatever journal the database has.
+  if (code == SQLITE_OK) code = sqlite3_exec(target, "pragma journal_mode=delete", nullptr, nullptr, nullptr);
   sqlite3_close(target);
   if (code != SQLITE_OK) ::unlink(path.text());
   return code;

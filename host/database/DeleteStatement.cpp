@@ -1,5 +1,6 @@
 #include "host/database/DeleteStatement.h"
 
+#include "host/database/BuiltSql.h"
 #include "host/database/SqlText.h"
 
 using Brontel::Database::BoundValue;
@@ -10,6 +11,11 @@ using FX::FXString;
 DeleteStatement::DeleteStatement(MorvaneDatabase* db, const FXString& table) : Statement(db), table_(table) {}
 
 FXString DeleteStatement::buildSql() const {
+  static Brontel::Database::BuiltSql texts;
+  return texts.get(table_, FXString(), getValues(), [this] { return build(); });
+}
+
+FXString DeleteStatement::build() const {
   FXString condition;
   for (const BoundValue& value : getValues()) {
     if (!isParameterName(value.name)) return FXString();

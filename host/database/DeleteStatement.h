@@ -12,5 +12,7 @@ class DeleteStatement : public Statement {
   FX::FXString buildSql() const override;
 
  private:
+  FX::FXString build() const;
+
   FX::FXString table_;
 };

@@ -1,5 +1,6 @@
 #include "host/database/InsertStatement.h"
 
+#include "host/database/BuiltSql.h"
 #include "host/database/SqlText.h"
 
 using Brontel::Database::BoundValue;
@@ -10,6 +11,11 @@ using FX::FXString;
 InsertStatement::InsertStatement(MorvaneDatabase* db, const FXString& table) : Statement(db), table_(table) {}
 
 FXString InsertStatement::buildSql() const {
+  static Brontel::Database::BuiltSql texts;
+  return texts.get(table_, FXString(), getValues(), [this] { return build(); });
+}
+
+FXString InsertStatement::build() const {
   FXString columns;
   FXString parameters;
   for (const BoundValue& value : getValues()) {

@@ -13,5 +13,7 @@ class InsertStatement : public Statement {
   FX::FXString buildSql() const override;
 
  private:
+  FX::FXString build() const;
+
   FX::FXString table_;
 };

@@ -9,6 +9,7 @@
 #include "host/database/DatabaseBackup.h"
 #include "host/database/FirstRowInteger.h"
 #include "host/database/NextId.h"
+#include "host/database/ReadOnlyFile.h"
 #include "host/database/StatementObserver.h"
 
 using Brontel::Database::BoundValues;
@@ -25,6 +26,8 @@ constexpr std::chrono::milliseconds kWaitStep{10};
 // A lock met this long after the last one is a new wait.
 constexpr std::chrono::milliseconds kSameWait{1000};
 constexpr size_t kMostCachedStatements = 256;
+// SQLite opens a file without looking into it.
+constexpr const char* kLookInside = "select count(*) from sqlite_master";
 
 // fold(text): lower case by Unicode's simple mapping, since SQLite's own lower() knows ASCII only.
 void foldCase(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -47,13 +50,21 @@ bool MorvaneDatabase::open(const FXString& path, OpenMode mode) {
   close();
   path_ = path;
   const int flags = SQLITE_OPEN_READWRITE | (mode == OpenMode::Create ? SQLITE_OPEN_CREATE : 0);
-  const FXString file = Brontel::Database::engineFileName(path);
-  const int code = path.empty() ? SQLITE_CANTOPEN : sqlite3_open_v2(file.text(), &connection_, flags, nullptr);
-  if (code != SQLITE_OK) {
-    fail(code, FXString());
-    close();
-    return false;
+  int code = SQLITE_CANTOPEN;
+  if (Brontel::Database::canOnlyBeReadAsItLies(path)) {
+    code = connect(Brontel::Database::uriAsItLies(path), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  } else if (!path.empty()) {
+    code = connect(Brontel::Database::engineFileName(path), flags);
   }
+  if (code == SQLITE_OK) return true;
+  fail(code, kLookInside);
+  close();
+  return false;
+}
+
+int MorvaneDatabase::connect(const FXString& file, int flags) {
+  const int code = sqlite3_open_v2(file.text(), &connection_, flags, nullptr);
+  if (code != SQLITE_OK) return code;
   sqlite3_extended_result_codes(connection_, 1);
   // By default the engine takes a misspelled name in double quotes for a text, and a condition on it for true or false.
   sqlite3_db_config(connection_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
@@ -61,23 +72,41 @@ bool MorvaneDatabase::open(const FXString& path, OpenMode mode) {
   sqlite3_busy_handler(connection_, &MorvaneDatabase::onBusy, this);
   sqlite3_create_function(connection_, "fold", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, foldCase, nullptr,
                           nullptr);
-  // SQLite opens a file without looking into it.
-  if (!run("select count(*) from sqlite_master")) {
-    close();
-    return false;
-  }
-  return true;
+  const int looked = runPrepared(kLookInside, {}, nullptr);
+  return looked == SQLITE_DONE ? SQLITE_OK : looked;
 }
 
 void MorvaneDatabase::close() {
   cache_.clear();
+  rollback_.reset();
   sqlite3_close(connection_);
   connection_ = nullptr;
   transactionDepth_ = 0;
+  rollbackPending_ = false;
 }
 
 bool MorvaneDatabase::isReadOnly() const {
   return connection_ != nullptr && sqlite3_db_readonly(connection_, "main") == 1;
+}
+
+bool MorvaneDatabase::useWriteAheadJournal() {
+  if (connection_ == nullptr || isReadOnly()) return false;
+  // Nobody is waited for: the next program that finds the file alone switches it.
+  sqlite3_busy_handler(connection_, nullptr, nullptr);
+  const int code = runPrepared("pragma journal_mode=wal", {}, nullptr);
+  sqlite3_busy_handler(connection_, &MorvaneDatabase::onBusy, this);
+  switch (Brontel::Database::errorKindOf(code)) {
+    case ErrorKind::None:
+    case ErrorKind::Busy:
+    case ErrorKind::ReadOnly:
+    case ErrorKind::CannotOpen:
+      break;
+    default:
+      return fail(code, "pragma journal_mode=wal");
+  }
+  // Some builds of the engine would let the last commits go with a power failure.
+  run("pragma synchronous=full");
+  return queryInt("select count(*) from pragma_journal_mode where journal_mode='wal'", 1, 0) == 1;
 }
 
 int MorvaneDatabase::queryInt(const FXString& sql, int, int defaultValue) {
@@ -101,8 +130,11 @@ bool MorvaneDatabase::run(const FXString& sql, const BoundValues& values, DataBa
     fail(ErrorKind::Other, "refused by the observer", sql);
     return false;
   }
+  if (rollbackPending_ && !rollBack()) return false;
   const int code = runPrepared(sql, values, loader);
-  return code == SQLITE_DONE || code == SQLITE_ROW || fail(code, sql);
+  if (code != SQLITE_DONE && code != SQLITE_ROW) return fail(code, sql);
+  waited_ = std::chrono::milliseconds(0);
+  return true;
 }
 
 int MorvaneDatabase::runPrepared(const FXString& sql, const BoundValues& values, DataBaseValueLoader* loader) {
@@ -113,6 +145,24 @@ int MorvaneDatabase::runPrepared(const FXString& sql, const BoundValues& values,
   // A loader that runs the statement which is feeding it needs a second cursor.
   const std::unique_ptr<PreparedStatement> second = PreparedStatement::prepare(connection_, sql, code);
   return second == nullptr ? code : second->run(values, loader);
+}
+
+bool MorvaneDatabase::begin(const FXString& sql) {
+  if (connection_ != nullptr && rollback_ == nullptr) {
+    // Made while it can be: when a rollback is due there may be no memory left to compile it.
+    int code = SQLITE_OK;
+    rollback_ = PreparedStatement::prepare(connection_, "rollback", code);
+    if (rollback_ == nullptr) return fail(code, sql);
+  }
+  return run(sql);
+}
+
+// Until it has succeeded no other statement runs, which would become part of what is to be undone.
+bool MorvaneDatabase::rollBack() {
+  if (rollback_ == nullptr) return true;  // closed meanwhile, which has undone it
+  const int code = rollback_->run({}, nullptr);
+  rollbackPending_ = sqlite3_get_autocommit(connection_) == 0;
+  return !rollbackPending_ || fail(code, "rollback");
 }
 
 PreparedStatement* MorvaneDatabase::prepareCached(const FXString& sql, int& code) {

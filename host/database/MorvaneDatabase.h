@@ -45,6 +45,12 @@ class MorvaneDatabase {
   void close();
   bool isOpen() const { return connection_ != nullptr; }
   bool isReadOnly() const;
+
+  /// Switches the file to a write-ahead journal, which it keeps: reading goes on while another program writes, and a
+  /// commit is on the disk when it returns. False, without an error, when the file has to stay with its rollback
+  /// journal for now, since another program uses it or its folder cannot have the journal's files; that is no less
+  /// safe.
+  bool useWriteAheadJournal();
   const FX::FXString& getPath() const { return path_; }
 
   /// Runs one statement with %name parameters to its end. The statement classes are its usual callers.
@@ -89,14 +95,19 @@ class MorvaneDatabase {
 
   static int onBusy(void* self, int attempt);
   bool waitForLock();
+  int connect(const FX::FXString& file, int flags);
   bool fail(int sqliteCode, const FX::FXString& statement);
   bool transactionLost() const;
   Brontel::Database::PreparedStatement* prepareCached(const FX::FXString& sql, int& code);
   int runPrepared(const FX::FXString& sql, const Brontel::Database::BoundValues& values, DataBaseValueLoader* loader);
+  bool begin(const FX::FXString& sql);
+  bool rollBack();
 
   sqlite3* connection_ = nullptr;  // owned; closed by close()
   FX::FXString path_;
   Cache cache_;
+  std::unique_ptr<Brontel::Database::PreparedStatement> rollback_;  // there before any transaction begins
+  bool rollbackPending_ = false;
   Brontel::Database::DatabaseError lastError_;
   Brontel::Database::DatabaseErrorSink* sink_ = nullptr;
   Brontel::Database::StatementObserver* observer_ = nullptr;

@@ -61,19 +61,22 @@ int PreparedStatement::bind(const BoundValues& values) {
 int PreparedStatement::step(DataBaseValueLoader* loader) {
   int code = sqlite3_step(statement_);
   while (code == SQLITE_ROW) {
-    if (loader != nullptr && !deliverRow(*loader)) return SQLITE_ROW;
+    code = loader == nullptr ? SQLITE_OK : deliverRow(*loader);
+    if (code != SQLITE_OK) return code;
     code = sqlite3_step(statement_);
   }
   return code;
 }
 
-bool PreparedStatement::deliverRow(DataBaseValueLoader& loader) const {
+int PreparedStatement::deliverRow(DataBaseValueLoader& loader) const {
   const int columns = sqlite3_column_count(statement_);
   for (int column = 0; column < columns; ++column) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
-    if (loader.processValue(column, sqlite3_column_name(statement_, column), text) == 0) return false;
+    // Without memory for the text the engine gives what it gives for NULL; taken for that, it would be saved as empty.
+    if (text == nullptr && sqlite3_errcode(sqlite3_db_handle(statement_)) == SQLITE_NOMEM) return SQLITE_NOMEM;
+    if (loader.processValue(column, sqlite3_column_name(statement_, column), text) == 0) return SQLITE_ROW;
   }
-  return true;
+  return SQLITE_OK;
 }
 
 }  // namespace Brontel::Database

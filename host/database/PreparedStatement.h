@@ -26,7 +26,7 @@ class PreparedStatement {
 
   /// Binds the values by name (a parameter without value is NULL, a value without parameter is ignored), runs to the
   /// end or until the loader asks to stop, and resets. Returns SQLite's result: SQLITE_DONE, SQLITE_ROW when the loader
-  /// stopped it, or an error. The loader may be null.
+  /// stopped it, or an error. The loader may be null. A value that the engine has no memory to hand out is an error.
   int run(const BoundValues& values, DataBaseValueLoader* loader);
 
   /// True while run is under way, for example when a loader runs further statements.
@@ -37,7 +37,8 @@ class PreparedStatement {
 
   int bind(const BoundValues& values);
   int step(DataBaseValueLoader* loader);
-  bool deliverRow(DataBaseValueLoader& loader) const;
+  /// SQLITE_OK, SQLITE_ROW when the loader has had enough, or an error.
+  int deliverRow(DataBaseValueLoader& loader) const;
 
   sqlite3_stmt* statement_;  // owned; the destructor finalizes it
   std::vector<std::string> parameters_;

@@ -58,6 +58,9 @@ BoundValue& Statement::valueFor(const FXString& name) {
   for (BoundValue& value : values_) {
     if (value.name == name) return value;
   }
+  // More than nearly every statement has: growing would copy the texts.
+  constexpr size_t kUsualValues = 8;
+  if (values_.capacity() == 0) values_.reserve(kUsualValues);
   values_.emplace_back();
   values_.back().name = name;
   return values_.back();

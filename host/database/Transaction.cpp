@@ -9,7 +9,7 @@ namespace Brontel::Database {
 Transaction::Transaction(MorvaneDatabase& database, Kind kind)
     : database_(database), failuresBefore_(database.failures_), depth_(database.transactionDepth_) {
   const char* begin = kind == Kind::Write ? "begin immediate" : "begin";
-  open_ = database_.run(depth_ == 0 ? FXString(begin) : "savepoint " + savepoint());
+  open_ = depth_ == 0 ? database_.begin(begin) : database_.run("savepoint " + savepoint());
   if (open_) ++database_.transactionDepth_;
 }
 
@@ -34,13 +34,23 @@ void Transaction::rollback() {
   // When the engine has ended the whole transaction by itself there is nothing left to roll back.
   const bool lost = database_.transactionLost();
   if (depth_ == 0) {
-    if (!lost) database_.runPrepared("rollback", {}, nullptr);
+    if (!lost) database_.rollBack();
   } else if (!lost) {
-    database_.runPrepared("rollback to " + savepoint(), {}, nullptr);
-    database_.runPrepared("release " + savepoint(), {}, nullptr);
-    database_.failures_ = failuresBefore_;
+    undoSavepoint();
   }
   database_.transactionDepth_ = depth_;
+}
+
+void Transaction::undoSavepoint() {
+  const FXString undo = "rollback to " + savepoint();
+  const int code = database_.runPrepared(undo, {}, nullptr);
+  if (errorKindOf(code) != ErrorKind::None) {
+    // What is still there of it must not be stored with the rest.
+    database_.fail(code, undo);
+    return;
+  }
+  database_.runPrepared("release " + savepoint(), {}, nullptr);
+  database_.failures_ = failuresBefore_;
 }
 
 bool Transaction::isWhole() const {

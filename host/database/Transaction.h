@@ -31,6 +31,7 @@ class Transaction {
   void rollback();
 
  private:
+  void undoSavepoint();
   bool isWhole() const;
   FX::FXString savepoint() const;
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/database/BuiltSql.h"
 #include "host/database/SqlText.h"
 
 using Brontel::Database::BoundValue;
@@ -15,6 +16,11 @@ UpdateStatement::UpdateStatement(MorvaneDatabase* db, const FXString& table, con
     : Statement(db), table_(table), where_(where) {}
 
 FXString UpdateStatement::buildSql() const {
+  static Brontel::Database::BuiltSql texts;
+  return texts.get(table_, where_, getValues(), [this] { return build(); });
+}
+
+FXString UpdateStatement::build() const {
   const std::vector<std::string> conditions = Brontel::Database::translateParameters(where_).parameters;
   const auto isBound = [this](const std::string& name) {
     return Brontel::Database::findValue(getValues(), name.c_str()) != nullptr;

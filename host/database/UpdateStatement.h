@@ -13,6 +13,8 @@ class UpdateStatement : public Statement {
   FX::FXString buildSql() const override;
 
  private:
+  FX::FXString build() const;
+
   FX::FXString table_;
   FX::FXString where_;
 };
