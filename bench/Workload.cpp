@@ -1,7 +1,10 @@
 #include "bench/Workload.h"
 
+#include <filesystem>
+#include <string>
+
 #include "host/entity/EntityTables.h"
-#include "itemdata/ItemDataList.h"
+#include "itemdata/Codes.h"
 
 using Brontel::Invoice;
 using Brontel::InvoiceItem;
@@ -11,8 +14,12 @@ using Brontel::Plugin::ItemData::ItemDataEntry;
 using Brontel::Plugin::ItemData::ItemDataList;
 using FX::FXint;
 
-Workload::Workload(Brontel::Morvane& app, const FX::FXString& file) : app_(app) {
-  database_.open(file, MorvaneDatabase::OpenMode::Create);
+Workload::Workload(Brontel::Morvane& app)
+    : app_(app),
+      file_((std::filesystem::temp_directory_path() / ("bench." + std::to_string(FX::fxgetpid()) + ".db")).c_str()) {
+  std::filesystem::remove(file_.text());
+  database_.open(file_, MorvaneDatabase::OpenMode::Create);
+  database_.useWriteAheadJournal();
   app_.setDB(&database_);
   Brontel::Model::initEntityTables(&database_);
   database_.setForeignKeys(true);
@@ -33,6 +40,8 @@ Workload::~Workload() {
   plugins_.remove(container_.get());
   container_.reset();
   app_.setDB(nullptr);
+  database_.close();
+  for (const char* end : {"", "-wal", "-shm"}) std::filesystem::remove((file_ + end).text());
 }
 
 std::unique_ptr<Invoice> Workload::makeInvoice(int rows) {
@@ -40,7 +49,7 @@ std::unique_ptr<Invoice> Workload::makeInvoice(int rows) {
   invoice->setTypeCode(101);
   invoice->setNumber("B-1");
   auto* item = new InvoiceItem;
-  item->setGoods(Brontel::GOODS_PRODUCT, 1);
+  item->setGoods(Brontel::GOODS_PRODUCT, kProduct);
   item->setName("Product");
   item->setUnit("db");
   item->setQuantity(FXExt::FXDecimal(rows, 0, 4));
@@ -50,7 +59,7 @@ std::unique_ptr<Invoice> Workload::makeInvoice(int rows) {
   list->addRows(rows);
   for (FXint i = 0; i < list->no(); ++i) {
     ItemDataEntry* entry = list->at(i);
-    entry->value = entry->itemvariable == -1   ? FX::FXString("1")
+    entry->value = entry->itemvariable == Brontel::Plugin::ItemData::VARIABLE_QUANTITY ? FX::FXString("1")
                    : entry->itemvariable == 10 ? "SN" + FX::FXStringVal(100000 + i)
                    : entry->itemvariable == 11 ? FX::FXString("2027.05.31")
                                                : FX::FXString("green");

@@ -8,7 +8,9 @@ case $(. /etc/os-release 2>/dev/null && echo "$VERSION_CODENAME") in
   noble) test_packages+=(libpython3.12-testsuite) ;;
   *) test_packages+=(libpython3.11-testsuite) ;;
 esac
-bench_packages=(libbenchmark-dev)
+bench_packages=(libbenchmark-dev libboost-dev python3 xauth xvfb)
+fuzz_packages=(clang libclang-rt-dev)
+coverage_packages=(gcovr)
 lint_packages=(clang clang-format clang-tidy python3)
 
 # need PACKAGE...: makes sure that they are installed; stops with their names where that cannot be done here.

@@ -1,6 +1,7 @@
 #include "fxext/values/FXDecimal.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace FXExt {
 
@@ -57,7 +58,8 @@ FXulong powerOfTen(long long n) {
 
 // v x 10^n; a negative n cuts digits off.
 long long scale(long long v, long long n) {
-  if (n >= 0) return wrapped(bits(v) * powerOfTen(n));
+  if (n == 0) return v;
+  if (n > 0) return wrapped(bits(v) * powerOfTen(n));
   if (n < -LAST_POWER) return 0;
   return v / wrapped(powerOfTen(-n));
 }
@@ -71,6 +73,17 @@ FXulong magnitude(long long v) {
   return v < 0 ? 0 - bits(v) : bits(v);
 }
 
+// A tenth of v where v is a multiple of ten, and more than LARGEST_TENTH where it is not: five has an inverse modulo
+// 2^64, and the two is shifted out. Sums are brought into normal form all the time, and a division takes several times
+// as long.
+constexpr FXulong INVERSE_OF_FIVE = 0xCCCCCCCCCCCCCCCDULL;
+constexpr FXulong LARGEST_TENTH = ~0ULL / 10;
+static_assert(INVERSE_OF_FIVE * 5 == 1);
+
+FXulong tenth(FXulong v) {
+  return std::rotr(v * INVERSE_OF_FIVE, 1);
+}
+
 // The precision of a number in normal form. An exponent of -128 needs one place more than the field can say.
 int places(const FXDecimal& d) {
   return std::max<int>(d.precision, -d.exponent);
@@ -79,6 +92,7 @@ int places(const FXDecimal& d) {
 // Compares the mantissas at the smaller of the two exponents: -1, 0 or 1.
 int compare(const FXDecimal& a, const FXDecimal& b) {
   const int difference = a.exponent - b.exponent;
+  if (difference == 0) return (a.value > b.value) - (a.value < b.value);
   const long long left = scale(a.value, std::max(difference, 0));
   const long long right = scale(b.value, std::max(-difference, 0));
   return (left > right) - (left < right);
@@ -179,8 +193,10 @@ int FXDecimal::getValueDigits() const {
 
 FXDecimal& FXDecimal::normalize() {
   if (value == 0) exponent = 0;
+  FXulong digits = magnitude(value);
   int zeros = 0;
-  for (; value != 0 && value % 10 == 0; zeros++) value /= 10;
+  for (; value != 0 && tenth(digits) <= LARGEST_TENTH; zeros++) digits = tenth(digits);
+  if (zeros > 0) value = wrapped(value < 0 ? 0 - digits : digits);
   exponent = narrow(exponent + zeros);
   precision = narrow(places(*this));
   return *this;
