@@ -1,5 +1,9 @@
 #include "host/ui/DBTable.h"
 
+#include <algorithm>
+
+#include <fxkeys.h>
+
 #include "host/database/DataBaseValueLoader.h"
 #include "host/database/IntegerText.h"
 #include "host/ui/DBTablePersister.h"
@@ -11,7 +15,9 @@ using FX::FXString;
 
 FXDEFMAP(DBTable)
 dbTableMap[] = {
+    FXMAPFUNC(FX::SEL_KEYPRESS, 0, DBTable::onKeyPress),
     FXMAPFUNC(FX::SEL_COMMAND, DBTable::ID_NEW_ROW, DBTable::onCmdNewRow),
+    FXMAPFUNC(FX::SEL_COMMAND, DBTable::ID_PASTE_SEL, DBTable::onCmdPasteSel),
 };
 
 FXIMPLEMENT(DBTable, FXTable, dbTableMap, ARRAYNUMBER(dbTableMap))
@@ -19,6 +25,25 @@ FXIMPLEMENT(DBTable, FXTable, dbTableMap, ARRAYNUMBER(dbTableMap))
 namespace {
 
 constexpr const char* kMark = "\xE2\x9C\x93";  // U+2713
+
+bool isCharacter(const FX::FXEvent& event) {
+  return static_cast<unsigned char>(event.text[0]) >= ' ' && event.code < 0xFF00 &&
+         (event.state & (FX::CONTROLMASK | FX::ALTMASK)) == 0;
+}
+
+// Every line's columns; the line feed at the end of the last line starts no further one.
+std::vector<std::vector<FXString>> splitRows(const FXString& text) {
+  std::vector<std::vector<FXString>> rows;
+  FXString rest(text);
+  rest.substitute("\r\n", "\n");
+  if (!rest.empty() && rest[rest.length() - 1] == '\n') rest.trunc(rest.length() - 1);
+  for (FXint line = 0; line <= rest.contains('\n'); ++line) {
+    const FXString row = rest.section('\n', line);
+    rows.emplace_back();
+    for (FXint column = 0; column <= row.contains('\t'); ++column) rows.back().push_back(row.section('\t', column));
+  }
+  return rows;
+}
 
 }  // namespace
 
@@ -42,6 +67,27 @@ class DBTable::Loader : public DataBaseValueLoader {
   DBTable& table_;
   int id_ = 0;
   int row_ = 0;
+};
+
+class DBTable::Collector : public DataBaseValueLoader {
+ public:
+  Collector(const DBTable& table, Rows& rows) : table_(table), rows_(rows) {}
+
+  int processValue(int column, const char* name, const char* value) override {
+    DataBaseValueLoader::processValue(column, name, value);
+    if (column == 0) {
+      row_ = &rows_[Database::toInt(value)];
+      row_->clear();
+    } else {
+      row_->push_back(table_.toStored(column - 1, table_.toShown(column - 1, value)));
+    }
+    return 1;
+  }
+
+ private:
+  const DBTable& table_;
+  Rows& rows_;
+  std::vector<FXString>* row_ = nullptr;
 };
 
 DBTable::DBTable(FX::FXComposite* parent, FX::FXObject* target, FX::FXSelector selector, FX::FXuint options, int x,
@@ -92,7 +138,9 @@ FXString DBTable::getStoredValue(int row, int column) const {
 }
 
 void DBTable::setStoredValue(int row, int column, const FXString& value) {
-  if (isCell(row, column)) setItemText(row, column, toShown(column, value));
+  if (!isCell(row, column)) return;
+  setItemText(row, column, toShown(column, value));
+  if (kindOf(column).type == COLUMN_YESNO) setItemJustify(row, column, FX::FXTableItem::CENTER_Y);
 }
 
 void DBTable::startInput(FXint row, FXint column) {
@@ -107,6 +155,32 @@ void DBTable::startInput(FXint row, FXint column) {
   if (target != nullptr) target->tryHandle(this, FXSEL(FX::SEL_REPLACED, message), &changed);
 }
 
+bool DBTable::pasteText(int row, int column, const FXString& text) {
+  if (!isCell(row, column) || text.empty()) return false;
+  const std::vector<std::vector<FXString>> rows = splitRows(text);
+  for (const auto& values : rows) {
+    for (size_t i = 0; i < values.size(); ++i) {
+      if (!takesText(column + static_cast<int>(i), values[i])) return false;
+    }
+  }
+  acceptInput(TRUE);
+  for (size_t line = 0; line < rows.size(); ++line) {
+    const int target = row + static_cast<int>(line);
+    if (target >= getNumRows()) appendNewRow();
+    for (size_t i = 0; i < rows[line].size(); ++i) {
+      const int at = column + static_cast<int>(i);
+      setStoredValue(target, at, toStored(at, rows[line][i]));
+    }
+  }
+  return true;
+}
+
+FX::FXTableItem* DBTable::createItem(const FXString& text, FX::FXIcon* icon, void* ptr) {
+  FX::FXTableItem* item = FXTable::createItem(text, icon, ptr);
+  item->setJustify(FX::FXTableItem::LEFT | FX::FXTableItem::CENTER_Y);
+  return item;
+}
+
 FX::FXWindow* DBTable::getControlForItem(FXint row, FXint column) {
   const ColumnKind& kind = kindOf(column);
   if (kind.type != COLUMN_CHOICE) return FXTable::getControlForItem(row, column);
@@ -114,6 +188,7 @@ FX::FXWindow* DBTable::getControlForItem(FXint row, FXint column) {
                                   getMarginRight(), getMarginTop(), getMarginBottom());
   for (const auto& [code, label] : kind.choices) list->appendItem(label);
   list->setNumVisible(list->getNumItems());
+  list->setCurrentItem(list->findItem(getItemText(row, column)));
   list->setText(getItemText(row, column));
   list->create();
   return list;
@@ -130,8 +205,9 @@ void DBTable::setItemFromControl(FXint row, FXint column, FX::FXWindow* control)
 
 void DBTable::saveToDB(DBTablePersister* persister) {
   if (persister == nullptr) return;
+  handedOverIds_.clear();
   for (const int id : deletedIds_) persister->deleteItem(id);
-  deletedIds_.clear();
+  handedOverIds_.swap(deletedIds_);
   for (FXint row = 0; row < getNumRows(); ++row) {
     const auto before = loaded_.find(getRowId(row));
     if (isNewRow(row) || before == loaded_.end() || before->second == storedValues(row)) continue;
@@ -142,10 +218,96 @@ void DBTable::saveToDB(DBTablePersister* persister) {
   }
 }
 
+void DBTable::keepUnsaved() {
+  deletedIds_.insert(deletedIds_.begin(), handedOverIds_.begin(), handedOverIds_.end());
+  handedOverIds_.clear();
+}
+
+std::unique_ptr<DataBaseValueLoader> DBTable::createCollector(Rows& rows) const {
+  return std::make_unique<Collector>(*this, rows);
+}
+
+std::vector<FXString> DBTable::findOvertaken(const Rows& rows) const {
+  std::vector<FXString> overtaken;
+  const auto isSame = [&rows](const Rows::value_type& before) {
+    const auto now = rows.find(before.first);
+    return now != rows.end() && now->second == before.second;
+  };
+  for (FXint row = 0; row < getNumRows(); ++row) {
+    const auto before = loaded_.find(getRowId(row));
+    if (isNewRow(row) || before == loaded_.end() || before->second == storedValues(row)) continue;
+    if (!isSame(*before)) overtaken.push_back(before->second.front());
+  }
+  for (const int id : deletedIds_) {
+    const auto before = loaded_.find(id);
+    // What somebody else has deleted as well is as it should be.
+    if (before != loaded_.end() && rows.count(id) > 0 && !isSame(*before)) overtaken.push_back(before->second.front());
+  }
+  return overtaken;
+}
+
 long DBTable::onCmdNewRow(FX::FXObject*, FX::FXSelector, void*) {
+  acceptInput(TRUE);
   const int row = appendNewRow();
+  killSelection(TRUE);
   setCurrentItem(row, 0, TRUE);
+  setAnchorItem(row, 0);
   makePositionVisible(row, 0);
+  setFocus();
+  return 1;
+}
+
+long DBTable::onKeyPress(FX::FXObject* sender, FX::FXSelector sel, void* ptr) {
+  const auto* event = static_cast<const FX::FXEvent*>(ptr);
+  auto* choice = dynamic_cast<FX::FXComboBox*>(editor);
+  if (choice != nullptr && onChoiceKey(*choice, *event)) return 1;
+  // Any key that stands for a character starts editing, which turns a yes/no cell round: only the space bar shall.
+  const bool starts = editor == nullptr && isCharacter(*event) && event->code != FX::KEY_space;
+  const COLUMN_TYPES type = kindOf(getCurrentColumn()).type;
+  if (starts && type == COLUMN_YESNO) return 1;
+  if (starts && type == COLUMN_CHOICE) {
+    handle(this, FXSEL(FX::SEL_COMMAND, ID_START_INPUT), nullptr);
+    choice = dynamic_cast<FX::FXComboBox*>(editor);
+    if (choice != nullptr) onChoiceKey(*choice, *event);
+    return 1;
+  }
+  // The window that holds the table may have a use for it.
+  if (editor == nullptr && event->code == FX::KEY_Escape) return 0;
+  return FXTable::onKeyPress(sender, sel, ptr);
+}
+
+// FOX's list cannot be accepted by key, and accepts by itself what the arrows pass.
+bool DBTable::onChoiceKey(FX::FXComboBox& choice, const FX::FXEvent& event) {
+  const FXint current = choice.getCurrentItem();
+  FXint wanted = current;
+  if (event.code == FX::KEY_Return || event.code == FX::KEY_KP_Enter) {
+    acceptInput(TRUE);
+    return true;
+  }
+  if (event.code == FX::KEY_Down || event.code == FX::KEY_KP_Down) {
+    wanted = std::min(current + 1, choice.getNumItems() - 1);
+  } else if (event.code == FX::KEY_Up || event.code == FX::KEY_KP_Up) {
+    wanted = std::max(current - 1, 0);
+  } else if (isCharacter(event)) {
+    wanted = choice.findItem(event.text, current + 1,
+                             FX::SEARCH_FORWARD | FX::SEARCH_WRAP | FX::SEARCH_PREFIX | FX::SEARCH_IGNORECASE);
+  } else {
+    return false;
+  }
+  if (wanted >= 0 && wanted < choice.getNumItems()) choice.setCurrentItem(wanted);
+  return true;
+}
+
+// FOX's own would add columns, and rows without key, and would put text into cells that hold a choice.
+long DBTable::onCmdPasteSel(FX::FXObject*, FX::FXSelector, void*) {
+  FXString text;
+  bool done = isEditable() && getDNDData(FX::FROM_CLIPBOARD, utf8Type, text);
+  if (done) {
+    const bool selected = getSelStartRow() >= 0;
+    done = pasteText(selected ? getSelStartRow() : getCurrentRow(), selected ? getSelStartColumn() : getCurrentColumn(),
+                     text);
+  }
+  if (!done) getApp()->beep();
   return 1;
 }
 
@@ -170,11 +332,20 @@ FXString DBTable::toShown(int column, const FXString& stored) const {
 
 FXString DBTable::toStored(int column, const FXString& shown) const {
   const ColumnKind& kind = kindOf(column);
-  if (kind.type == COLUMN_YESNO) return shown == kMark ? "1" : "0";
+  if (kind.type == COLUMN_YESNO) return shown == kMark || shown == "1" ? "1" : "0";
   for (const auto& [code, label] : kind.choices) {
     if (label == shown) return code;
   }
   return shown;
+}
+
+bool DBTable::takesText(int column, const FXString& text) const {
+  if (column < 0 || column >= getNumColumns()) return false;
+  const ColumnKind& kind = kindOf(column);
+  if (kind.type == COLUMN_TEXT || text.empty()) return true;
+  if (kind.type == COLUMN_YESNO) return text == "0" || text == "1" || text == kMark;
+  return std::any_of(kind.choices.begin(), kind.choices.end(),
+                     [&text](const auto& choice) { return choice.first == text || choice.second == text; });
 }
 
 int DBTable::appendRowOf(int id) {

@@ -52,23 +52,42 @@ class DBTable : public FX::FXTable {
   /// Editing a yes/no cell turns it round at once; a choice is picked from its list.
   void startInput(FX::FXint row, FX::FXint column) override;
 
+  /// Puts text from elsewhere into the cells from the given one on: columns end with a tab, rows with a line feed; what
+  /// goes on past the last row makes new ones. False, and nothing changes, when the text does not fit: it has more
+  /// columns than there are, or something else than a choice or yes or no where that is wanted.
+  bool pasteText(int row, int column, const FX::FXString& text);
+
   /// Remembers the key of a stored row that saveToDB is to delete.
   void appendDeletedId(int id) { deletedIds_.push_back(id); }
+  const std::vector<int>& getDeletedIds() const { return deletedIds_; }
 
   /// Hands everything to the persister: deleted keys, then the rows that were loaded and changed, then the new ones,
   /// each with all of its named fields. Starting a transaction is the caller's business.
   void saveToDB(DBTablePersister* persister);
+  /// What the last saveToDB wrote has been rolled back: the next one writes all of it again.
+  void keepUnsaved();
+
+  /// Rows of a table by key, each with its columns' values, as a query gives them again. createCollector's loader fills
+  /// them, findOvertaken tells by their first column the rows that were changed or deleted here and, since they were
+  /// loaded, elsewhere as well.
+  using Rows = std::map<int, std::vector<FX::FXString>>;
+  std::unique_ptr<DataBaseValueLoader> createCollector(Rows& rows) const;
+  std::vector<FX::FXString> findOvertaken(const Rows& rows) const;
 
   long onCmdNewRow(FX::FXObject*, FX::FXSelector, void*);
+  long onKeyPress(FX::FXObject* sender, FX::FXSelector sel, void* ptr);
+  long onCmdPasteSel(FX::FXObject*, FX::FXSelector, void*);
 
  protected:
   DBTable() = default;
 
+  FX::FXTableItem* createItem(const FX::FXString& text, FX::FXIcon* icon, void* ptr) override;
   FX::FXWindow* getControlForItem(FX::FXint row, FX::FXint column) override;
   void setItemFromControl(FX::FXint row, FX::FXint column, FX::FXWindow* control) override;
 
  private:
   class Loader;
+  class Collector;
 
   struct ColumnKind {
     COLUMN_TYPES type = COLUMN_TEXT;
@@ -79,13 +98,16 @@ class DBTable : public FX::FXTable {
   bool isCell(int row, int column) const;
   FX::FXString toShown(int column, const FX::FXString& stored) const;
   FX::FXString toStored(int column, const FX::FXString& shown) const;
+  bool onChoiceKey(FX::FXComboBox& choice, const FX::FXEvent& event);
+  bool takesText(int column, const FX::FXString& text) const;
   int appendRowOf(int id);
   std::vector<FX::FXString> storedValues(int row) const;
   std::map<FX::FXString, FX::FXString> fieldsOf(int row, DBTablePersister& persister) const;
 
   std::map<int, ColumnKind> kinds_;
-  std::map<int, std::vector<FX::FXString>> loaded_;  // the values of a stored row as they came, by its key
+  Rows loaded_;  // the stored rows as they came
   std::vector<int> deletedIds_;
+  std::vector<int> handedOverIds_;  // those that the last saveToDB had deleted
   int lastNewId_ = 0;
 };
 

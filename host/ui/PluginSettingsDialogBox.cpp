@@ -1,5 +1,6 @@
 #include "host/ui/PluginSettingsDialogBox.h"
 
+#include <fxkeys.h>
 #include <libintl.h>
 
 #include "host/plugin/PluginContainer.h"
@@ -13,15 +14,65 @@ using FX::FXString;
 FXDEFMAP(PluginSettingsDialogBox)
 pluginSettingsDialogBoxMap[] = {
     FXMAPFUNC(FX::SEL_RIGHTBUTTONRELEASE, PluginSettingsDialogBox::ID_TABLE, PluginSettingsDialogBox::onContextMenu),
+    FXMAPFUNC(FX::SEL_KEYPRESS, PluginSettingsDialogBox::ID_TABLE, PluginSettingsDialogBox::onTableKey),
+    FXMAPFUNC(FX::SEL_COMMAND, PluginSettingsDialogBox::ID_NEW_ROW, PluginSettingsDialogBox::onCmdNewRow),
+    FXMAPFUNC(FX::SEL_UPDATE, PluginSettingsDialogBox::ID_NEW_ROW, PluginSettingsDialogBox::onUpdNewRow),
+    FXMAPFUNC(FX::SEL_COMMAND, PluginSettingsDialogBox::ID_DELETE_ROWS, PluginSettingsDialogBox::onCmdDeleteRows),
+    FXMAPFUNC(FX::SEL_UPDATE, PluginSettingsDialogBox::ID_DELETE_ROWS, PluginSettingsDialogBox::onUpdDeleteRows),
 };
 
 FXIMPLEMENT(PluginSettingsDialogBox, FXDialogBox, pluginSettingsDialogBoxMap, ARRAYNUMBER(pluginSettingsDialogBoxMap))
 
 namespace {
 
+constexpr FX::FXuint kButton = FX::BUTTON_NORMAL;
+
 FX::FXWindow* ownerFor(FX::FXApp* app) {
   FX::FXWindow* active = app->getActiveWindow();
   return active != nullptr && active->id() != 0 ? active : app->getRootWindow();
+}
+
+DBTable* findTableIn(const FX::FXWindow* parent, const FX::FXObject* target) {
+  for (FX::FXWindow* child = parent->getFirst(); child != nullptr; child = child->getNext()) {
+    auto* table = dynamic_cast<DBTable*>(child);
+    const bool isIt = table != nullptr && table->getTarget() == target &&
+                      table->getSelector() == static_cast<FX::FXSelector>(PluginSettingsDialogBox::ID_TABLE);
+    if (isIt) return table;
+    table = findTableIn(child, target);
+    if (table != nullptr) return table;
+  }
+  return nullptr;
+}
+
+/// Asks, as a button would, whether a command can be given now.
+class Asker : public FX::FXObject {
+ public:
+  long handle(FX::FXObject*, FX::FXSelector sel, void*) override {
+    if (sel == FXSEL(FX::SEL_COMMAND, FX::FXWindow::ID_ENABLE)) enabled = true;
+    if (sel == FXSEL(FX::SEL_COMMAND, FX::FXWindow::ID_DISABLE)) enabled = false;
+    return 1;
+  }
+
+  bool enabled = false;
+};
+
+// Deleting concerns the selection, which the keyboard's moves take away.
+void selectSomething(DBTable& table) {
+  if (table.getSelStartRow() < 0 && table.getCurrentRow() >= 0) table.selectRow(table.getCurrentRow(), TRUE);
+}
+
+// A click beside the selection means the row under the pointer.
+void goToRowAt(DBTable& table, FX::FXint y) {
+  const FX::FXint row = table.rowAtY(y);
+  const bool isSelected = table.getSelStartRow() <= row && row <= table.getSelEndRow();
+  if (row < 0 || row >= table.getNumRows() || isSelected) return;
+  table.killSelection(TRUE);
+  table.setCurrentItem(row, table.getCurrentColumn() < 0 ? 0 : table.getCurrentColumn(), TRUE);
+  table.setAnchorItem(row, table.getCurrentColumn());
+}
+
+void showOrHide(FX::FXObject* sender, FX::FXObject* self, bool shown) {
+  sender->handle(self, FXSEL(FX::SEL_COMMAND, shown ? FX::FXWindow::ID_SHOW : FX::FXWindow::ID_HIDE), nullptr);
 }
 
 }  // namespace
@@ -30,28 +81,104 @@ PluginSettingsDialogBox::PluginSettingsDialogBox(PluginContainer* container, FX:
     : FXDialogBox(ownerFor(app), container == nullptr ? FXString() : container->getName(), FX::DECOR_ALL),
       container_(container),
       contentFrame_(new FX::FXVerticalFrame(this, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0)) {
+  const auto* host = dynamic_cast<Morvane*>(app);
   new FX::FXHorizontalSeparator(this, FX::SEPARATOR_GROOVE | FX::LAYOUT_FILL_X);
-  auto* buttons = new FX::FXHorizontalFrame(this, FX::LAYOUT_FILL_X | FX::PACK_UNIFORM_WIDTH);
-  constexpr FX::FXuint kButton = FX::BUTTON_NORMAL | FX::LAYOUT_RIGHT;
-  new FX::FXButton(buttons, gettext("Mé&gsem"), nullptr, this, ID_CANCEL, kButton, 0, 0, 0, 0, 20, 20, 2, 2);
-  new FX::FXButton(buttons, gettext("&OK"), nullptr, this, ID_ACCEPT, kButton | FX::BUTTON_INITIAL, 0, 0, 0, 0, 20, 20,
+  auto* buttons = new FX::FXHorizontalFrame(this, FX::LAYOUT_FILL_X);
+  new FX::FXButton(buttons, gettext("Új &sor\tÚj sor (Ins)"), host == nullptr ? nullptr : host->getNewRowIcon(), this,
+                   ID_NEW_ROW, kButton | FX::ICON_BEFORE_TEXT, 0, 0, 0, 0, 6, 6, 2, 2);
+  new FX::FXButton(buttons, gettext("&Törlés\tA kijelölt sorok törlése (Del)"),
+                   host == nullptr ? nullptr : host->getDeleteIcon(), this, ID_DELETE_ROWS,
+                   kButton | FX::ICON_BEFORE_TEXT, 0, 0, 0, 0, 6, 6, 2, 2);
+  auto* ends = new FX::FXHorizontalFrame(buttons, FX::LAYOUT_RIGHT | FX::PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
+  new FX::FXButton(ends, gettext("Mé&gsem"), nullptr, this, ID_CANCEL, kButton | FX::LAYOUT_RIGHT, 0, 0, 0, 0, 20, 20,
                    2, 2);
+  new FX::FXButton(ends, gettext("&OK"), nullptr, this, ID_ACCEPT, kButton | FX::LAYOUT_RIGHT | FX::BUTTON_INITIAL, 0,
+                   0, 0, 0, 20, 20, 2, 2);
 }
 
 PluginSettingsDialogBox::~PluginSettingsDialogBox() = default;
+
+void PluginSettingsDialogBox::show(FX::FXuint placement) {
+  FXDialogBox::show(placement);
+  DBTable* table = findTable();
+  if (table == nullptr) return;
+  table->setFocus();
+  if (table->getCurrentRow() < 0 && table->getNumRows() > 0) table->setCurrentItem(0, 0, TRUE);
+}
+
+FX::FXuint PluginSettingsDialogBox::resume() {
+  if (!shown()) FXDialogBox::show();
+  getApp()->refresh();
+  return getApp()->runModalFor(this);
+}
+
+DBTable* PluginSettingsDialogBox::findTable() const {
+  return contentFrame_ == nullptr ? nullptr : findTableIn(contentFrame_, this);
+}
 
 long PluginSettingsDialogBox::onContextMenu(FX::FXObject* sender, FX::FXSelector, void* ptr) {
   auto* table = dynamic_cast<DBTable*>(sender);
   const auto* event = static_cast<const FX::FXEvent*>(ptr);
   if (table == nullptr || event == nullptr || event->moved) return 0;
-  auto* app = dynamic_cast<Morvane*>(getApp());
+  table->acceptInput(TRUE);
+  goToRowAt(*table, event->win_y);
+  selectSomething(*table);
+  const auto* app = dynamic_cast<Morvane*>(getApp());
   FX::FXMenuPane pane(this);
-  new FX::FXMenuCommand(&pane, gettext("Új &sor"), app == nullptr ? nullptr : app->getNewRowIcon(), table,
+  new FX::FXMenuCommand(&pane, gettext("Új &sor\tIns"), app == nullptr ? nullptr : app->getNewRowIcon(), table,
                         DBTable::ID_NEW_ROW);
-  new FX::FXMenuCommand(&pane, gettext("&Törlés"), app == nullptr ? nullptr : app->getDeleteIcon(), this, ID_DELETE);
+  new FX::FXMenuCommand(&pane, gettext("&Törlés\tDel"), app == nullptr ? nullptr : app->getDeleteIcon(), this,
+                        ID_DELETE);
   pane.create();
   pane.popup(nullptr, event->root_x, event->root_y);
   getApp()->runModalWhileShown(&pane);
+  return 1;
+}
+
+// The table would take Del for a character to type.
+long PluginSettingsDialogBox::onTableKey(FX::FXObject* sender, FX::FXSelector, void* ptr) {
+  const auto* event = static_cast<const FX::FXEvent*>(ptr);
+  if (event == nullptr || (event->state & (FX::SHIFTMASK | FX::CONTROLMASK | FX::ALTMASK)) != 0) return 0;
+  if (event->code == FX::KEY_Insert || event->code == FX::KEY_KP_Insert) {
+    return handle(sender, FXSEL(FX::SEL_COMMAND, ID_NEW_ROW), nullptr);
+  }
+  if (event->code != FX::KEY_Delete && event->code != FX::KEY_KP_Delete) return 0;
+  if (canDelete()) return handle(sender, FXSEL(FX::SEL_COMMAND, ID_DELETE_ROWS), nullptr);
+  getApp()->beep();
+  return 1;
+}
+
+bool PluginSettingsDialogBox::canDelete() {
+  Asker asker;
+  handle(&asker, FXSEL(FX::SEL_UPDATE, ID_DELETE_ROWS), nullptr);
+  return asker.enabled;
+}
+
+long PluginSettingsDialogBox::onCmdNewRow(FX::FXObject* sender, FX::FXSelector, void*) {
+  DBTable* table = findTable();
+  return table == nullptr ? 0 : table->handle(sender, FXSEL(FX::SEL_COMMAND, DBTable::ID_NEW_ROW), nullptr);
+}
+
+long PluginSettingsDialogBox::onUpdNewRow(FX::FXObject* sender, FX::FXSelector, void*) {
+  showOrHide(sender, this, findTable() != nullptr);
+  return 1;
+}
+
+long PluginSettingsDialogBox::onCmdDeleteRows(FX::FXObject* sender, FX::FXSelector, void* ptr) {
+  DBTable* table = findTable();
+  if (table == nullptr) return 0;
+  table->acceptInput(TRUE);
+  selectSomething(*table);
+  return handle(sender, FXSEL(FX::SEL_COMMAND, ID_DELETE), ptr);
+}
+
+long PluginSettingsDialogBox::onUpdDeleteRows(FX::FXObject* sender, FX::FXSelector, void* ptr) {
+  const DBTable* table = findTable();
+  showOrHide(sender, this, table != nullptr);
+  const bool hasRow = table != nullptr && table->getCurrentRow() >= 0;
+  if (!hasRow || handle(sender, FXSEL(FX::SEL_UPDATE, ID_DELETE), ptr) == 0) {
+    sender->handle(this, FXSEL(FX::SEL_COMMAND, FX::FXWindow::ID_DISABLE), nullptr);
+  }
   return 1;
 }
 

@@ -2,6 +2,6 @@
 
 namespace Brontel {
 
-FXIMPLEMENT(ProductDataWindow, PanelisedWindow, nullptr, 0)
+FXIMPLEMENT(ProductDataWindow, GoodsDataWindow, nullptr, 0)
 
 }  // namespace Brontel

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "host/ui/PanelisedWindow.h"
+#include "host/ui/GoodsDataWindow.h"
 
 namespace Brontel {
 
 /// The window of one product.
-class ProductDataWindow : public PanelisedWindow {
+class ProductDataWindow : public GoodsDataWindow {
   FXDECLARE(ProductDataWindow)
 
  public:
-  ProductDataWindow(FX::FXApp* app, const FX::FXString& title) : PanelisedWindow(app, title) {}
+  ProductDataWindow(FX::FXApp* app, const FX::FXString& title) : GoodsDataWindow(app, title, GOODS_PRODUCT) {}
 
  protected:
   ProductDataWindow() = default;

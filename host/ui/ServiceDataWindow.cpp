@@ -2,6 +2,6 @@
 
 namespace Brontel {
 
-FXIMPLEMENT(ServiceDataWindow, PanelisedWindow, nullptr, 0)
+FXIMPLEMENT(ServiceDataWindow, GoodsDataWindow, nullptr, 0)
 
 }  // namespace Brontel

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "host/ui/PanelisedWindow.h"
+#include "host/ui/GoodsDataWindow.h"
 
 namespace Brontel {
 
 /// The window of one service.
-class ServiceDataWindow : public PanelisedWindow {
+class ServiceDataWindow : public GoodsDataWindow {
   FXDECLARE(ServiceDataWindow)
 
  public:
-  ServiceDataWindow(FX::FXApp* app, const FX::FXString& title) : PanelisedWindow(app, title) {}
+  ServiceDataWindow(FX::FXApp* app, const FX::FXString& title) : GoodsDataWindow(app, title, GOODS_SERVICE) {}
 
  protected:
   ServiceDataWindow() = default;

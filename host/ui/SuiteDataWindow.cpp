@@ -2,6 +2,6 @@
 
 namespace Brontel {
 
-FXIMPLEMENT(SuiteDataWindow, PanelisedWindow, nullptr, 0)
+FXIMPLEMENT(SuiteDataWindow, GoodsDataWindow, nullptr, 0)
 
 }  // namespace Brontel

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "host/ui/PanelisedWindow.h"
+#include "host/ui/GoodsDataWindow.h"
 
 namespace Brontel {
 
 /// The window of one suite.
-class SuiteDataWindow : public PanelisedWindow {
+class SuiteDataWindow : public GoodsDataWindow {
   FXDECLARE(SuiteDataWindow)
 
  public:
-  SuiteDataWindow(FX::FXApp* app, const FX::FXString& title) : PanelisedWindow(app, title) {}
+  SuiteDataWindow(FX::FXApp* app, const FX::FXString& title) : GoodsDataWindow(app, title, GOODS_SUITE) {}
 
  protected:
   SuiteDataWindow() = default;
