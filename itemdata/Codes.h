@@ -6,7 +6,13 @@ namespace Brontel::Plugin::ItemData {
 enum TypeCode { TYPE_QUANTITY = -1, TYPE_TEXT = 1, TYPE_DATE = 2, TYPE_LIST = 3 };
 
 /// Keys of t_itemvariable that do not belong to a variable of the user.
-enum VariableId { VARIABLE_QUANTITY = -1, VARIABLE_NONE = 0 };
+enum VariableId {
+  VARIABLE_QUANTITY = -1,
+  VARIABLE_NONE = 0,
+  /// Goes with the quantity: it is not written for a row of none. The key is a matter of convention between the
+  /// databases in use.
+  VARIABLE_WITH_QUANTITY = 2
+};
 
 /// Invoices of this type code get no messages about item data.
 constexpr int kUncheckedInvoiceType = 102;

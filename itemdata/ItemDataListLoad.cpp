@@ -83,9 +83,6 @@ void ItemDataList::loadCells(MorvaneDatabase* db) {
 int ItemDataList::save(MorvaneDatabase* db) {
   FXint zeroRow = -1;
   FXint zeroItem = -1;
-  // A variable that goes with the quantity: it is not written for a row of none. The key is a matter of convention
-  // between the databases in use.
-  constexpr FXint kGoesWithQuantity = 2;
   for (FXint i = 0; i < no(); ++i) {
     ItemDataEntry* entry = at(i);
     if (entry == nullptr) continue;
@@ -93,7 +90,7 @@ int ItemDataList::save(MorvaneDatabase* db) {
     if (entry->getValue() == "0") {
       zeroRow = entry->row;
       zeroItem = item;
-    } else if (entry->row != zeroRow || item != zeroItem || entry->itemvariable != kGoesWithQuantity) {
+    } else if (entry->row != zeroRow || item != zeroItem || entry->itemvariable != VARIABLE_WITH_QUANTITY) {
       entry->save(db);
     }
   }

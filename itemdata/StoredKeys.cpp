@@ -2,8 +2,10 @@
 
 #include "host/database/DataBaseValueLoader.h"
 #include "host/database/IntegerText.h"
+#include "host/database/MorvaneDatabase.h"
 #include "host/database/Statement.h"
 #include "host/entity/Entity.h"
+#include "itemdata/Codes.h"
 
 namespace Brontel::Plugin::ItemData {
 
@@ -15,6 +17,7 @@ class StoredKeys::Loader : public DataBaseValueLoader {
   explicit Loader(StoredKeys& keys) : keys_(keys) {}
 
   int processValue(int column, const char* name, const char* value) override {
+    if (column == 3) keys_.readable_ = keys_.readable_ && toInt(value) != 0;
     if (column == 0) key_ = toInt(value);
     if (column == 1) variable_ = toInt(value);  // NULL is VARIABLE_NONE
     if (column == 2) {
@@ -34,11 +37,16 @@ class StoredKeys::Loader : public DataBaseValueLoader {
 StoredKeys::StoredKeys(MorvaneDatabase* db, const ItemDataList& list) {
   if (list.getOwner() == nullptr) return;
   Statement statement(db,
-                      "select t_invoiceitemdata_id, t_itemvariable_1, row from t_invoiceitemdata "
+                      "select t_invoiceitemdata_id, t_itemvariable_1, row, "
+                      "t_invoiceitemdata_id between -2147483648 and 2147483647 "
+                      "and ifnull(row,0) between -2147483648 and 2147483647 "
+                      "and instr(cast(ifnull(value,'') as blob),x'00')=0 from t_invoiceitemdata "
                       "where t_invoiceitem_1=%t_invoiceitem_1 order by t_invoiceitemdata_id");
   statement.setInt("t_invoiceitem_1", list.getOwner()->getId());
   Loader loader(*this);
   known_ = statement.execute(&loader, 1) != 0;
+  // Written back it would be another row, another key or a shorter text.
+  if (!readable_) db->fail(Database::ErrorKind::Damaged, "a recorded value holds what no program of this kind stores");
 }
 
 void StoredKeys::repair(ItemDataList& list) {
@@ -52,6 +60,15 @@ void StoredKeys::assign(ItemDataList& list) {
   if (!known_) return;
   holdKeys(list, true, false);
   takeFreeKeys(list);
+}
+
+bool StoredKeys::hasAll(const ItemDataList& list) {
+  for (FXint i = 0; i < list.no(); ++i) {
+    const ItemDataEntry* entry = list[i];
+    if (!ItemDataEntry::isLive(entry) || entry->pk != 0) continue;
+    if (entry->getValue() != "0" && entry->itemvariable != VARIABLE_WITH_QUANTITY) return false;
+  }
+  return true;
 }
 
 void StoredKeys::holdKeys(ItemDataList& list, bool live, bool dropFalse) {

@@ -18,7 +18,8 @@ namespace Brontel::Plugin::ItemData {
 class StoredKeys {
  public:
   /// Reads which rows the table holds for the list's item. When that fails, the list keeps the keys it has: a marked
-  /// cell that lost its key could never be deleted again.
+  /// cell that lost its key could never be deleted again. Rows with what a cell cannot hold (a number beyond 32 bits, a
+  /// text with a zero byte) are a failure of the database, so that the save is not kept.
   StoredKeys(MorvaneDatabase* db, const ItemDataList& list);
 
   /// Before the cells are written: a key that the table does not hold for the cell's variable and row, or that another
@@ -28,6 +29,9 @@ class StoredKeys {
   /// After they have been written: a live cell without key takes that of its row. Should a row that was to be deleted
   /// still stand beside it, it is the older one and stays with the marked cell.
   void assign(ItemDataList& list);
+
+  /// Whether, after assign, each live cell that a save writes has the key of its row.
+  static bool hasAll(const ItemDataList& list);
 
  private:
   struct Stored {
@@ -40,6 +44,7 @@ class StoredKeys {
   void takeFreeKeys(ItemDataList& list);
 
   bool known_ = false;                                          // whether the table could be read
+  bool readable_ = true;                                        // whether a cell can hold what is in it
   std::unordered_map<FX::FXint, Stored> stored_;                // by key
   std::unordered_map<CellKey, std::vector<FX::FXint>> keysOf_;  // of each cell, ascending
 };

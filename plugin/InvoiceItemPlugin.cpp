@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "host/database/MorvaneDatabase.h"
 #include "host/entity/Invoice.h"
 #include "host/plugin/PluginContainer.h"
 #include "host/ui/Morvane.h"
@@ -36,10 +37,15 @@ int InvoiceItemPlugin::save(Entity* item) const {
   ItemDataList* list = ItemDataList::of(item);
   if (list == nullptr) return 0;
   MorvaneDatabase* db = getDatabase();
+  const FX::FXlong failures = db == nullptr ? 0 : db->getFailures();
   list->settle();
   StoredKeys(db, *list).repair(*list);
   list->save(db);
   StoredKeys(db, *list).assign(*list);
+  // A trigger can swallow a row without an error.
+  if (db != nullptr && db->getFailures() == failures && !StoredKeys::hasAll(*list)) {
+    db->fail(Database::ErrorKind::Other, "a recorded value was not stored");
+  }
   return 1;
 }
 

@@ -8,6 +8,7 @@
 #include "host/database/DataBaseValueLoader.h"
 #include "host/database/DatabaseBackup.h"
 #include "host/database/FirstRowInteger.h"
+#include "host/database/FoldCase.h"
 #include "host/database/NextId.h"
 #include "host/database/ReadOnlyFile.h"
 #include "host/database/StatementObserver.h"
@@ -33,9 +34,9 @@ constexpr const char* kLookInside = "select count(*) from sqlite_master";
 void foldCase(sqlite3_context* context, int, sqlite3_value** arguments) {
   const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(arguments[0]));
   if (text == nullptr) return;
-  FXString folded(text);
-  folded.lower();
-  sqlite3_result_text(context, folded.text(), folded.length(), SQLITE_TRANSIENT);
+  const auto length = static_cast<size_t>(sqlite3_value_bytes(arguments[0]));
+  const std::string folded = Brontel::Database::foldCase({text, length});
+  sqlite3_result_text(context, folded.data(), static_cast<int>(folded.size()), SQLITE_TRANSIENT);
 }
 
 }  // namespace
@@ -133,7 +134,6 @@ bool MorvaneDatabase::run(const FXString& sql, const BoundValues& values, DataBa
   if (rollbackPending_ && !rollBack()) return false;
   const int code = runPrepared(sql, values, loader);
   if (code != SQLITE_DONE && code != SQLITE_ROW) return fail(code, sql);
-  waited_ = std::chrono::milliseconds(0);
   return true;
 }
 
@@ -141,7 +141,12 @@ int MorvaneDatabase::runPrepared(const FXString& sql, const BoundValues& values,
   int code = SQLITE_OK;
   PreparedStatement* cached = prepareCached(sql, code);
   if (cached == nullptr) return code;
-  if (!cached->isRunning()) return cached->run(values, loader);
+  if (!cached->isRunning()) {
+    code = cached->run(values, loader);
+    // Reading says nothing about the lock of a writer: one that stays would be waited for again after each look.
+    if (code == SQLITE_DONE && !cached->isReadOnly()) waited_ = std::chrono::milliseconds(0);
+    return code;
+  }
   // A loader that runs the statement which is feeding it needs a second cursor.
   const std::unique_ptr<PreparedStatement> second = PreparedStatement::prepare(connection_, sql, code);
   return second == nullptr ? code : second->run(values, loader);

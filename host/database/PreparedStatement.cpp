@@ -44,6 +44,10 @@ int PreparedStatement::run(const BoundValues& values, DataBaseValueLoader* loade
   return code;
 }
 
+bool PreparedStatement::isReadOnly() const {
+  return sqlite3_stmt_readonly(statement_) != 0;
+}
+
 int PreparedStatement::bind(const BoundValues& values) {
   int code = SQLITE_OK;
   for (size_t i = 0; i < parameters_.size() && code == SQLITE_OK; ++i) {

@@ -31,6 +31,8 @@ class PreparedStatement {
 
   /// True while run is under way, for example when a loader runs further statements.
   bool isRunning() const { return running_; }
+  /// Whether it leaves the file as it is and needs no writer's lock.
+  bool isReadOnly() const;
 
  private:
   PreparedStatement(sqlite3_stmt* statement, std::vector<std::string> parameters);

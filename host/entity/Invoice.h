@@ -47,6 +47,11 @@ class Invoice : public Entity {
   int getVersion() const { return version_; }
   void setVersion(int version) { version_ = version; }
 
+  /// True when the database holds something of the invoice or its items that these objects cannot hold: no number where
+  /// one should be, a quantity that is none, a text with a zero byte. Saving would change it, so it is not saved.
+  bool isUnreadable() const { return unreadable_; }
+  void setUnreadable() { unreadable_ = true; }
+
   /// Set by plug-ins when they have read data of their own for one of the items.
   FX::FXuchar getLoadedDataMarker() const { return loadedDataMarker_; }
   void setLoadedDataMarker(FX::FXuchar marker) { loadedDataMarker_ = marker; }
@@ -84,6 +89,7 @@ class Invoice : public Entity {
   FX::FXString date_;
   int referencedInvoiceId_ = 0;
   int version_ = 0;
+  bool unreadable_ = false;
   FX::FXuchar loadedDataMarker_ = 0;
   FX::FXManagedObjectListOf<InvoiceItem> items_;
   FX::FXManagedObjectListOf<InvoiceItem> removedItems_;

@@ -1,5 +1,7 @@
 #include "host/entity/InvoiceLoader.h"
 
+#include <cstring>
+
 #include "host/database/IntegerText.h"
 #include "host/entity/Invoice.h"
 
@@ -10,6 +12,18 @@ using Database::toInt;
 namespace {
 
 constexpr signed char kQuantityPlaces = 4;
+
+// Decimal numbers read any text, and hold what fits 64 bits; nothing at all is zero.
+bool isQuantity(const char* text) {
+  constexpr size_t kMostDigits = 18;
+  if (text == nullptr || *text == '\0') return true;
+  if (*text == '-') ++text;
+  const size_t whole = std::strspn(text, "0123456789");
+  const bool hasPoint = text[whole] == '.';
+  const size_t places = hasPoint ? std::strspn(text + whole + 1, "0123456789") : 0;
+  const size_t digits = whole + places;
+  return text[digits + (hasPoint ? 1 : 0)] == '\0' && digits > 0 && digits <= kMostDigits;
+}
 
 }  // namespace
 
@@ -36,8 +50,11 @@ int InvoiceLoader::processValue(int column, const char* name, const char* value)
     case 6:
       invoice_.setDate(value);
       break;
-    default:
+    case 7:
       invoice_.setVersion(toInt(value));
+      break;
+    default:
+      if (toInt(value) != 0) invoice_.setUnreadable();
   }
   return DataBaseValueLoader::processValue(column, name, value);
 }
@@ -60,6 +77,7 @@ int InvoiceItemLoader::processValue(int column, const char* name, const char* va
       break;
     case 4:
       item_->setQuantity(FXExt::FXDecimal(FX::FXString(value), kQuantityPlaces));
+      if (!isQuantity(value)) invoice_.setUnreadable();
       break;
     case 5:
       item_->setUnit(value);
@@ -67,8 +85,11 @@ int InvoiceItemLoader::processValue(int column, const char* name, const char* va
     case 6:
       item_->setPrice(value);
       break;
-    default:
+    case 7:
       item_->setReferencedItemId(toInt(value));
+      break;
+    default:
+      if (toInt(value) != 0) invoice_.setUnreadable();
   }
   return DataBaseValueLoader::processValue(column, name, value);
 }

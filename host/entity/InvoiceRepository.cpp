@@ -63,6 +63,10 @@ void InvoiceRepository::loadPluginData(Invoice& invoice) {
 
 InvoiceRepository::Result InvoiceRepository::save(Invoice& invoice) {
   if (invoice.isStatusClosed()) return Result::ReadOnly;
+  if (invoice.isUnreadable()) {
+    database_.fail(Database::ErrorKind::Damaged, "the invoice holds what no program of this kind stores");
+    return Result::Failed;
+  }
   const Keys keys(invoice);
   Transaction transaction(database_);
   if (!transaction.isOpen()) return Result::Failed;
@@ -133,6 +137,7 @@ InvoiceRepository::Result InvoiceRepository::writeHead(Invoice& invoice) {
   statement.setInt("version", invoice.getVersion() + 1);
   if (statement.execute(nullptr, 1) == 0) return Result::Failed;
   if (isNew) {
+    if (!isStored(true)) return Result::Failed;
     invoice.setId(database_.lastInsertId());
     return Result::Done;
   }
@@ -168,9 +173,16 @@ void InvoiceRepository::writeItem(InvoiceItem& item, int position) {
   statement.setString("quantity", item.getQuantity().toString());
   statement.setString("unit", item.getUnit());
   statement.setString("price", item.getPrice());
-  if (statement.execute(nullptr, 1) == 0) return;
+  if (statement.execute(nullptr, 1) == 0 || !isStored(isNew)) return;
   if (isNew) item.setId(database_.lastInsertId());
   plugins_.save(&item);
+}
+
+// A trigger can swallow a row without an error, and a key beyond 32 bits could never be found again.
+bool InvoiceRepository::isStored(bool isNew) {
+  if (database_.changes() == 1 && (!isNew || database_.lastInsertId() != 0)) return true;
+  database_.fail(Database::ErrorKind::Other, "a row was not stored");
+  return false;
 }
 
 }  // namespace Brontel

@@ -52,6 +52,7 @@ class InvoiceRepository {
   void deleteRemovedItems(Invoice& invoice);
   void deleteItem(InvoiceItem& item);
   void writeItem(InvoiceItem& item, int position);
+  bool isStored(bool isNew);
 
   MorvaneDatabase& database_;
   const Plugin::PluginRegistry& plugins_;

@@ -124,7 +124,8 @@ TEST_F(BadDatabaseTest, AnInterruptedWriteIsUndoneOnOpening) {
     // A crash half-way: the journal and the already changed file, as they lie on the disk.
     FileConnection other(database);
     other.exec(
-        "pragma cache_size=1; begin; update t_invoice set number='half'; create table x (y); "
+        "pragma journal_mode=delete; pragma cache_size=1; begin; update t_invoice set number='half'; create table x "
+        "(y); "
         "insert into x with recursive c(i) as (select 1 union all select i+1 from c where i<9999) "
         "select i || 'xxxxxxxxxxxxxxxxxxxxxxxx' from c");
     std::filesystem::copy_file(database, directory.path("crashed.db"));

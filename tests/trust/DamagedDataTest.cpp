@@ -13,6 +13,7 @@ TEST_F(DamagedDataTest, ValuesOfOtherTypes) {
       "update t_invoiceitemdata set value=x'00ff4100' where t_invoiceitemdata_id%5=0; "
       "update t_invoiceitemdata set value=12.5 where t_invoiceitemdata_id%5=1; "
       "update t_invoice set date=20250303, partner=x'ff'; update t_invoiceitem set price=1e300, quantity=2.5");
+  expectSavesKeepAllData();
   expectAllCommandsSurvive();
 }
 
@@ -21,7 +22,7 @@ TEST_F(DamagedDataTest, TextsWhereNumbersShouldBe) {
       "update t_invoiceitemdata set row='abc' where t_invoiceitemdata_id%5=0; "
       "update t_itemvariable set type='one', process='yes', mandatory='no' where t_itemvariable_id%2=0; "
       "update t_productitemdata set position='first', direction='out' where t_productitemdata_id%3=0; "
-      "update t_invoiceitem set goods='x', goodskind='y', position='z' where t_invoiceitem_id%4=0; "
+      "update t_invoiceitem set goods='x', goodskind='y' where t_invoiceitem_id%4=0; "
       "update t_invoice set version='v', t_invoicetype_1='t' where t_invoice_id=2");
   expectSavesKeepAllData();
   expectAllCommandsSurvive();
@@ -91,12 +92,13 @@ TEST_F(DamagedDataTest, QuantitiesThatAreNone) {
     spoil(std::string("update t_invoiceitem set quantity='") + quantity +
           "' where t_invoice_1 in (1,4); update t_invoiceitemdata set value='" + quantity +
           "' where t_itemvariable_1=-1");
+    expectSavesKeepAllData();
     EXPECT_LE(run({"check", "1"}).exitCode, 1);
     EXPECT_EQ(run({"print", "1"}).exitCode, 0);
     EXPECT_EQ(run({"export", "1"}).exitCode, 0);
     EXPECT_EQ(run({"derive", "4"}).exitCode, 0);
+    ASSERT_EQ(std::remove(database.c_str()), 0);
   }
-  expectAllCommandsSurvive();
 }
 
 TEST_F(DamagedDataTest, TablesWithOtherColumns) {
@@ -115,6 +117,8 @@ TEST_F(DamagedDataTest, TablesWithoutSomeColumns) {
         "drop table t_invoiceitemdata"}) {
     SCOPED_TRACE(damage);
     spoil(damage);
+    // The plug-in adds what its tables lack whenever it starts.
+    EXPECT_LE(run({"check", "1"}).exitCode, 1);
     expectAllCommandsSurvive();
     ASSERT_EQ(std::remove(database.c_str()), 0);
     ASSERT_EQ(std::remove(directory.path("copy.db").c_str()), 0);

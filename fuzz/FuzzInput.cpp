@@ -1,0 +1,10 @@
+#include "fuzz/FuzzInput.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+void require(bool condition, const char* what) {
+  if (condition) return;
+  std::fprintf(stderr, "does not hold: %s\n", what);
+  std::abort();
+}
