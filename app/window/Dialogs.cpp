@@ -14,6 +14,7 @@ using FX::FXuint;
 namespace {
 
 constexpr FX::FXint kLongestLine = 90;
+constexpr FX::FXint kLongestText = 400;
 
 FXuint show(FX::FXWindow* owner, FXuint (*box)(FX::FXWindow*, FXuint, const FX::FXchar*, const FX::FXchar*, ...),
             FXuint buttons, const FXString& title, const FXString& text) {
@@ -69,6 +70,11 @@ FXString wrapped(const FXString& text) {
     blank = -1;
   }
   return result;
+}
+
+FXString shortened(const FXString& text) {
+  if (text.length() <= kLongestText) return text;
+  return text.left(text.validate(kLongestText)) + "...";
 }
 
 }  // namespace Brontel::App::Dialogs

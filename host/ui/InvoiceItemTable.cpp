@@ -2,6 +2,7 @@
 
 #include "host/plugin/InvoiceItemMenuPlugin.h"
 #include "host/plugin/PluginRegistry.h"
+#include "host/ui/KeyboardMenu.h"
 
 namespace Brontel {
 
@@ -14,7 +15,7 @@ InvoiceItemTable::InvoiceItemTable(FX::FXComposite* parent, InvoiceForm* form, F
     : FXTable(parent, target, sel, options), form_(form) {}
 
 FX::FXMenuPane* InvoiceItemTable::createMenu(const Plugin::PluginRegistry& plugins) {
-  auto* pane = new FX::FXMenuPane(this);
+  auto* pane = new KeyboardMenu(this);
   for (Plugin::PluginModule* module : plugins.findModules(InvoiceItemMenuPlugin::metaClass)) {
     auto* plugin = static_cast<InvoiceItemMenuPlugin*>(module);
     new FX::FXMenuCommand(pane, plugin->getLabel(), nullptr, plugin, InvoiceItemMenuPlugin::ID_MENU_ITEM);

@@ -1,0 +1,80 @@
+#include "app/WindowRun.h"
+
+#include <libintl.h>
+
+#include "app/CommandLine.h"
+#include "app/Console.h"
+#include "app/Paths.h"
+#include "app/PluginStart.h"
+#include "app/window/FoxTexts.h"
+#include "app/window/MainWindow.h"
+#include "app/window/Workspace.h"
+#include "host/message/FillIn.h"
+#include "host/ui/Morvane.h"
+
+namespace Brontel::App {
+
+using FX::FXString;
+
+int WindowRun::run(char* program) {
+  // Before the database, which is not to be made for nothing.
+  if (!openDisplay(program)) {
+    return report(
+        gettext("Nincs elérhető képernyő (DISPLAY). Parancsokkal e nélkül is használható: brontel-host --help"));
+  }
+  if (!database_.open(findDatabase(line_.getDatabase()), HostDatabase::Use::Create)) {
+    return report(database_.getError());
+  }
+  if (!loadPlugins()) return report(database_.describeError());
+  int code = 0;
+  {
+    Workspace workspace(app_, database_, registry_, loader_, editable_);
+    new MainWindow(workspace, notices_);
+    app_.create();
+    code = app_.run();
+    deleteWindows();
+  }
+  // What the plug-ins have made needs their code to go.
+  loader_.unload();
+  return code;
+}
+
+bool WindowRun::openDisplay(char* program) {
+  arguments_[0] = program;
+  app_.init(argumentCount_, arguments_, false);
+  FoxTexts::install(&app_);
+  return app_.openDisplay();
+}
+
+// They have gone by themselves unless something else than closing the main window has ended the program.
+void WindowRun::deleteWindows() {
+  FX::FXWindow* window = app_.getRootWindow()->getFirst();
+  while (window != nullptr) {
+    auto* top = dynamic_cast<FX::FXTopWindow*>(window);
+    window = window->getNext();
+    if (top == nullptr) continue;
+    delete top;
+    // With it may have gone what came next.
+    window = app_.getRootWindow()->getFirst();
+  }
+}
+
+bool WindowRun::loadPlugins() {
+  PluginStart start(app_, database_, loader_);
+  const FXString folder = findPluginDirectory(line_.getPlugins());
+  if (!start.load(folder) || !start.requireAny(folder)) {
+    // Saving without them could lose what they have recorded.
+    notices_.push_back(start.getError());
+    notices_.emplace_back(gettext("A számlák bővítmény nélkül csak megtekinthetők."));
+    editable_ = false;
+  }
+  for (const FXString& line : start.describeFailures()) notices_.push_back(line);
+  if (editable_ && !start.requireQuantityVariable()) {
+    notices_.push_back(start.getError());
+    editable_ = false;
+  }
+  if (editable_) database_.markComplete();
+  return !database_.errors().hasError();
+}
+
+}  // namespace Brontel::App

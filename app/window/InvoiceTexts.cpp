@@ -1,0 +1,96 @@
+#include "app/window/InvoiceTexts.h"
+
+#include <cctype>
+#include <cstdio>
+
+#include <libintl.h>
+
+#include "host/entity/Invoice.h"
+#include "host/message/FillIn.h"
+
+namespace Brontel::App {
+
+using FX::FXString;
+
+namespace {
+
+constexpr int kOutgoing = 101;
+constexpr int kOutgoingOffer = 102;
+constexpr int kIncoming = 201;
+constexpr int kWholeDigits = 12;
+constexpr int kPlaces = 4;
+
+int daysOf(int year, int month) {
+  static constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  const bool isLeap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+  return month == 2 && isLeap ? 29 : kDays[month - 1];
+}
+
+}  // namespace
+
+FXString nameOfType(int typeCode) {
+  switch (typeCode) {
+    case kOutgoing:
+      return gettext("Kimenő számla");
+    case kOutgoingOffer:
+      return gettext("Kimenő díjbekérő");
+    case kIncoming:
+      return gettext("Bejövő számla");
+    default:
+      return fillIn(gettext("%s. típus"), {FX::FXStringVal(typeCode)});
+  }
+}
+
+FXString nameOfStatus(int status) {
+  switch (status) {
+    case STATUS_OPEN:
+      return gettext("Nyitott");
+    case STATUS_CLOSED:
+      return gettext("Lezárt");
+    case STATUS_STORNO:
+      return gettext("Stornózott");
+    default:
+      return FX::FXStringVal(status);
+  }
+}
+
+const std::vector<int>& offeredTypes() {
+  static const std::vector<int> types{kOutgoing, kOutgoingOffer, kIncoming};
+  return types;
+}
+
+bool isDate(const FXString& text) {
+  static constexpr char kPattern[] = "dddd-dd-dd";
+  if (text.length() != static_cast<FX::FXint>(sizeof kPattern) - 1) return false;
+  for (FX::FXint i = 0; i < text.length(); ++i) {
+    const bool isDigit = std::isdigit(static_cast<unsigned char>(text[i])) != 0;
+    if (kPattern[i] == 'd' ? !isDigit : text[i] != kPattern[i]) return false;
+  }
+  int year = 0;
+  int month = 0;
+  int day = 0;
+  if (std::sscanf(text.text(), "%d-%d-%d", &year, &month, &day) != 3) return false;
+  return year >= 1 && month >= 1 && month <= 12 && day >= 1 && day <= daysOf(year, month);
+}
+
+bool readDecimal(const FXString& typed, FXString& number) {
+  FXString text(typed);
+  text.trim();
+  text.substitute(',', '.');
+  int whole = 0;
+  int places = -1;
+  for (FX::FXint i = text[0] == '-' ? 1 : 0; i < text.length(); ++i) {
+    if (text[i] == '.' && places < 0) {
+      places = 0;
+    } else if (std::isdigit(static_cast<unsigned char>(text[i])) == 0) {
+      return false;
+    } else {
+      ++(places < 0 ? whole : places);
+    }
+  }
+  if (whole == 0 || whole > kWholeDigits || places == 0 || places > kPlaces) return false;
+  number = text;
+  return true;
+}
+
+}  // namespace Brontel::App

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include <fx.h>
+
+namespace Brontel::App {
+
+/// How an invoice's type and status are called.
+FX::FXString nameOfType(int typeCode);
+FX::FXString nameOfStatus(int status);
+
+/// The types that a person can choose for a new invoice.
+const std::vector<int>& offeredTypes();
+
+/// Whether a date is a real one and written as YYYY-MM-DD.
+bool isDate(const FX::FXString& text);
+
+/// Turns what a person typed into a decimal number's text, with "." and without blanks. False when it is none, or has
+/// more digits than quantities are kept with.
+bool readDecimal(const FX::FXString& typed, FX::FXString& number);
+
+}  // namespace Brontel::App

@@ -1,0 +1,88 @@
+#include "app/window/RecordedDataFrame.h"
+
+#include <libintl.h>
+
+#include "app/RecordedData.h"
+#include "app/window/RowCollector.h"
+#include "app/window/WaitCursor.h"
+#include "app/window/Workspace.h"
+#include "host/message/FillIn.h"
+
+namespace Brontel::App {
+
+using FX::FXString;
+
+FXDEFMAP(RecordedDataFrame)
+recordedDataFrameMap[] = {
+    FXMAPFUNC(FX::SEL_COMMAND, RecordedDataFrame::ID_SEARCH, RecordedDataFrame::onSearch),
+};
+
+FXIMPLEMENT(RecordedDataFrame, FXVerticalFrame, recordedDataFrameMap, ARRAYNUMBER(recordedDataFrameMap))
+
+namespace {
+
+// Of what the search finds, without the key.
+enum Found { NUMBER, DIRECTION, PARTNER, DATE, ITEM, VARIABLE, ROW, VALUE };
+
+FXString nameOfDirection(const FXString& code) {
+  if (code == "100") return gettext("Kimenő");
+  return code == "200" ? FXString(gettext("Bejövő")) : code;
+}
+
+}  // namespace
+
+RecordedDataFrame::RecordedDataFrame(FX::FXComposite* parent, Workspace& workspace, FX::FXObject* receiver,
+                                     FX::FXSelector sel)
+    : FXVerticalFrame(parent, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 4, 4), workspace_(&workspace) {
+  auto* bar = new FX::FXHorizontalFrame(this, FX::LAYOUT_FILL_X, 0, 0, 0, 0, 0, 0, 0, 0);
+  new FX::FXLabel(bar, gettext("Ré&gzített adat:"), nullptr, FX::LAYOUT_CENTER_Y);
+  search_ = new FX::FXTextField(
+      bar, 30, this, ID_SEARCH,
+      FX::TEXTFIELD_ENTER_ONLY | FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_FILL_X | FX::LAYOUT_CENTER_Y);
+  search_->setTipText(gettext("Gyári szám, gyártási tétel vagy bármely rögzített érték része"));
+  new FX::FXButton(bar, gettext("Ke&resés\tA beírt szöveg keresése a rögzített adatokban"), nullptr, this, ID_SEARCH,
+                   FX::BUTTON_NORMAL, 0, 0, 0, 0, 12, 12, 2, 2);
+  auto* frame = new FX::FXVerticalFrame(
+      this, FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+  list_ = new RowList(frame, receiver, sel, "RecordedData");
+  list_->addColumn(gettext("Érték"), 150);
+  list_->addColumn(gettext("Változó"), 140);
+  list_->addColumn(gettext("Tétel"), 190);
+  list_->addColumn(gettext("Számla"), 110);
+  list_->addColumn(gettext("Irány"), 80);
+  list_->addColumn(gettext("Partner"), 170);
+  list_->addColumn(gettext("Kelt"), 90);
+  result_ = new FX::FXLabel(this, gettext("Írja be a keresett érték egy részét, majd nyomjon Entert."), nullptr,
+                            FX::JUSTIFY_LEFT | FX::LAYOUT_FILL_X);
+}
+
+void RecordedDataFrame::refresh() {
+  const FXString text = search_->getText();
+  if (text.empty()) return;
+  const WaitCursor wait(getApp());
+  RowCollector found;
+  if (RecordedData::exists(workspace_->getDatabase())) {
+    RecordedData::find(workspace_->getDatabase(), text, found);
+  }
+  for (RowList::Row& row : found.getRows()) {
+    const std::vector<FXString> cells = row.cells;
+    row.cells = {cells[VALUE],   cells[VARIABLE], cells[ITEM], cells[NUMBER], nameOfDirection(cells[DIRECTION]),
+                 cells[PARTNER], cells[DATE]};
+  }
+  const size_t count = found.getRows().size();
+  list_->setRows(std::move(found.getRows()));
+  FXString result = (count == 0 ? fillIn(gettext("Nincs ilyen rögzített adat: %s"), {text})
+                                : fillIn(gettext("%s találat. Megnyitás: Enter vagy dupla kattintás."),
+                                         {FX::FXStringVal(static_cast<FX::FXint>(count))}));
+  // A label takes a single one for the mark of a key.
+  result_->setText(result.substitute("&", "&&"));
+  workspace_->showErrors(getShell());
+}
+
+long RecordedDataFrame::onSearch(FX::FXObject*, FX::FXSelector, void*) {
+  refresh();
+  if (list_->getNumItems() > 0) list_->setFocus();
+  return 1;
+}
+
+}  // namespace Brontel::App
