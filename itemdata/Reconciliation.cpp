@@ -14,6 +14,8 @@ Reconciliation::Reconciliation(ItemDataList& list, const ItemDataList& settings)
     : list_(list),
       settings_(settings),
       firstPerUnit_(settings.firstRowIndex < 0 ? settings.no() : std::min(settings.firstRowIndex, settings.no())) {
+  const auto* item = dynamic_cast<const InvoiceItem*>(list.getOwner());
+  derived_ = item != nullptr && isDerived(*item);
   for (FXint i = 0; i < settings_.no(); ++i) {
     if (settings_[i] != nullptr) positions_.emplace(settings_[i]->itemvariable, i);
   }
@@ -38,13 +40,17 @@ void Reconciliation::place(ItemDataEntry* entry) {
   const auto found = positions_.find(entry->itemvariable);
   if (found != positions_.end()) entry->vvalue = settings_[found->second]->vvalue;
   const bool wanted = found != positions_.end() && isConfigured(*entry, found->second);
-  const auto [known, first] = firsts_.try_emplace(keyOf(*entry), entry);
-  // A second cell for the same place that has neither a key nor a value of its own only repeats the first.
-  const bool repeated = !first && entry->pk == 0 && (entry->value.empty() || entry->value == known->second->value);
+  const auto known = firsts_.find(keyOf(*entry));
+  const bool first = known == firsts_.end();
+  // What derives from another item is read twice where the goods' variables have changed: as a cell of its own and with
+  // the source's rows.
+  const bool repeated =
+      !first && derived_ && entry->pk == 0 && (entry->value.empty() || entry->value == known->second->value);
   if (repeated || (!wanted && entry->getValue().empty())) {
     delete entry;
     return;
   }
+  if (first) firsts_.emplace(keyOf(*entry), entry);
   if (entry->row > 0 && (rows_.empty() || rows_.back() != entry->row)) rows_.push_back(entry->row);
   const Section section = entry->row > 0 ? PerUnit : wanted && first ? PerItem : NoLongerPerItem;
   const FXint position = wanted && first ? found->second : settings_.no();

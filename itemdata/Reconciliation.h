@@ -44,6 +44,7 @@ class Reconciliation {
 
   ItemDataList& list_;
   const ItemDataList& settings_;
+  bool derived_ = false;    // the list is that of a new item that was made from another one
   FX::FXint firstPerUnit_;  // the template's first per-unit position, its end when there is none
   std::unordered_map<FX::FXint, FX::FXint> positions_;        // of the template's variables
   std::unordered_map<CellKey, const ItemDataEntry*> firsts_;  // for each cell the first that the list holds

@@ -1,5 +1,7 @@
 // Copies of cells and of whole lists.
 
+#include <algorithm>
+
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataList.h"
 #include "tests/itemdata/ListFixture.h"
@@ -236,6 +238,19 @@ TEST_F(ItemDataListCloneTest, settlingLosesNoneOfTwoValuesForOnePlace) {
   copy.settle();
   EXPECT_EQ(cellsOf(copy), (Cells{"11/0=M", "-1/1=5", "12/1=S1", "13/1=kék", "-1/2=3", "12/2=S2", "13/2=piros",
                                   "12/2=S2 again", "11/0=M again"}));
+}
+
+TEST_F(ItemDataListCloneTest, settlingLosesNoRowThatRepeatsAnother) {
+  ItemDataList& source = filledList();
+  add(source, TYPE_QUANTITY, VARIABLE_QUANTITY, 2, "3", 31);
+  add(source, TYPE_TEXT, 12, 2, "S2", 32);
+  add(source, TYPE_LIST, 13, 2, "", 33);
+  ItemDataList& copy = copyOf(source);
+  copy.settle();
+  const Cells cells = cellsOf(copy);
+  EXPECT_EQ(std::count(cells.begin(), cells.end(), "-1/2=3"), 2);
+  EXPECT_EQ(std::count(cells.begin(), cells.end(), "12/2=S2"), 2);
+  EXPECT_EQ(std::count(cells.begin(), cells.end(), "13/2="), 1);
 }
 
 TEST_F(ItemDataListCloneTest, copiesOfCopiesAreLikeTheFirst) {

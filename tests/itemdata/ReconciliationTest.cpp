@@ -182,11 +182,20 @@ TEST_F(ReconciliationTest, ofStoredCellsForOnePlaceNoneIsLost) {
   EXPECT_EQ(list.firstRowIndex, 1);
 }
 
-TEST_F(ReconciliationTest, aRepetitionThatWasNeverStoredLeaves) {
+TEST_F(ReconciliationTest, aRepetitionInADerivedItemLeaves) {
+  item.setReferenceMode(Brontel::InvoiceItem::MODE_DERIVED);
+  item.setReferencedItemId(10);
   add(list, TYPE_TEXT, 11, 0, "M");
   addRow(list, 1, "5", "S1", "kék");
   addRow(list, 1, "5", "S1", "");
   EXPECT_EQ(reconciled(), (Cells{"11/0=M", "-1/1=5", "12/1=S1", "13/1=kék"}));
+}
+
+TEST_F(ReconciliationTest, aRowThatRepeatsAnotherStays) {
+  add(list, TYPE_TEXT, 11, 0, "M");
+  addRow(list, 1, "5", "S1", "kék");
+  addRow(list, 1, "5", "S1", "kék");
+  EXPECT_EQ(reconciled().size(), 7U);
 }
 
 TEST_F(ReconciliationTest, anotherValueThatWasNeverStoredStays) {
