@@ -27,6 +27,10 @@ Outcome CommandRun::loadPlugins(const Command& command) {
   PluginStart start(app_, database_, loader_);
   const FXString folder = findPluginDirectory(line_.getPlugins());
   if (!start.load(folder)) return failed(start.getError());
+  // What plug-ins bring up to date at their start serves writing, and is tried again at the next start. Reading goes on
+  // without, and tells by itself what it cannot read.
+  const bool writes = command.use == HostDatabase::Use::Write || command.use == HostDatabase::Use::Create;
+  if (!writes) database_.errors().forget();
   // That command shows all this itself.
   if (command.use == HostDatabase::Use::IfPresent) return {};
   if (!start.requireAny(folder)) return failed(start.getError());

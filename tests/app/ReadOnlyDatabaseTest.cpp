@@ -43,6 +43,22 @@ TEST_F(ReadOnlyDatabaseTest, ReadingCommandsWork) {
   EXPECT_EQ(runUnprivileged({"check", "2"}).exitCode, 1);
 }
 
+TEST_F(ReadOnlyDatabaseTest, AnIndexThatIsMissingKeepsNobodyFromReading) {
+  ASSERT_EQ(chmod(database.c_str(), 0644), 0);
+  const std::string expected = output({"print", "1"});
+  {
+    FileConnection preparation(database);
+    preparation.exec("drop index " + preparation.rows("select name from sqlite_master where type='index' and "
+                                                      "tbl_name='t_invoiceitemdata' and sql is not null")
+                                         .at(0)
+                                         .at(0));
+  }
+  ASSERT_EQ(chmod(database.c_str(), 0444), 0);
+  const ProgramRun run = runUnprivileged({"print", "1"});
+  EXPECT_EQ(run.exitCode, 0) << run.errors;
+  EXPECT_EQ(run.output, expected);
+}
+
 TEST_F(ReadOnlyDatabaseTest, ItCanBeBackedUp) {
   const TemporaryDirectory target;
   ASSERT_EQ(chmod(target.path().c_str(), 0777), 0);
