@@ -25,8 +25,6 @@ FXIMPLEMENT(PluginSettingsDialogBox, FXDialogBox, pluginSettingsDialogBoxMap, AR
 
 namespace {
 
-constexpr FX::FXuint kButton = FX::BUTTON_NORMAL;
-
 FX::FXWindow* ownerFor(FX::FXApp* app) {
   FX::FXWindow* active = app->getActiveWindow();
   return active != nullptr && active->id() != 0 ? active : app->getRootWindow();
@@ -79,21 +77,27 @@ void showOrHide(FX::FXObject* sender, FX::FXObject* self, bool shown) {
 
 PluginSettingsDialogBox::PluginSettingsDialogBox(PluginContainer* container, FX::FXApp* app)
     : FXDialogBox(ownerFor(app), container == nullptr ? FXString() : container->getName(), FX::DECOR_ALL),
-      container_(container),
-      contentFrame_(new FX::FXVerticalFrame(this, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0)) {
-  const auto* host = dynamic_cast<Morvane*>(app);
-  new FX::FXHorizontalSeparator(this, FX::SEPARATOR_GROOVE | FX::LAYOUT_FILL_X);
-  auto* buttons = new FX::FXHorizontalFrame(this, FX::LAYOUT_FILL_X);
-  new FX::FXButton(buttons, gettext("Új &sor\tÚj sor (Ins)"), host == nullptr ? nullptr : host->getNewRowIcon(), this,
-                   ID_NEW_ROW, kButton | FX::ICON_BEFORE_TEXT, 0, 0, 0, 0, 6, 6, 2, 2);
+      container_(container) {
+  // First: what fills the dialog takes all that is left when its turn comes.
+  buildFoot(dynamic_cast<Morvane*>(app));
+  contentFrame_ = new FX::FXVerticalFrame(this, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
+}
+
+void PluginSettingsDialogBox::buildFoot(const Morvane* app) {
+  constexpr FX::FXuint kBottom = FX::LAYOUT_SIDE_BOTTOM | FX::LAYOUT_FILL_X;
+  constexpr FX::FXuint kRowButton = FX::BUTTON_NORMAL | FX::ICON_BEFORE_TEXT;
+  constexpr FX::FXuint kEndButton = FX::BUTTON_NORMAL | FX::LAYOUT_RIGHT;
+  auto* buttons = new FX::FXHorizontalFrame(this, kBottom);
+  new FX::FXHorizontalSeparator(this, FX::SEPARATOR_GROOVE | kBottom);
+  new FX::FXButton(buttons, gettext("Új &sor\tÚj sor (Ins)"), app == nullptr ? nullptr : app->getNewRowIcon(), this,
+                   ID_NEW_ROW, kRowButton, 0, 0, 0, 0, 6, 6, 2, 2);
   new FX::FXButton(buttons, gettext("&Törlés\tA kijelölt sorok törlése (Del)"),
-                   host == nullptr ? nullptr : host->getDeleteIcon(), this, ID_DELETE_ROWS,
-                   kButton | FX::ICON_BEFORE_TEXT, 0, 0, 0, 0, 6, 6, 2, 2);
-  auto* ends = new FX::FXHorizontalFrame(buttons, FX::LAYOUT_RIGHT | FX::PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
-  new FX::FXButton(ends, gettext("Mé&gsem"), nullptr, this, ID_CANCEL, kButton | FX::LAYOUT_RIGHT, 0, 0, 0, 0, 20, 20,
+                   app == nullptr ? nullptr : app->getDeleteIcon(), this, ID_DELETE_ROWS, kRowButton, 0, 0, 0, 0, 6, 6,
                    2, 2);
-  new FX::FXButton(ends, gettext("&OK"), nullptr, this, ID_ACCEPT, kButton | FX::LAYOUT_RIGHT | FX::BUTTON_INITIAL, 0,
-                   0, 0, 0, 20, 20, 2, 2);
+  auto* ends = new FX::FXHorizontalFrame(buttons, FX::LAYOUT_RIGHT | FX::PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
+  new FX::FXButton(ends, gettext("Mé&gsem"), nullptr, this, ID_CANCEL, kEndButton, 0, 0, 0, 0, 20, 20, 2, 2);
+  new FX::FXButton(ends, gettext("&OK"), nullptr, this, ID_ACCEPT, kEndButton | FX::BUTTON_INITIAL, 0, 0, 0, 0, 20, 20,
+                   2, 2);
 }
 
 PluginSettingsDialogBox::~PluginSettingsDialogBox() = default;

@@ -5,6 +5,7 @@
 namespace Brontel {
 
 class DBTable;
+class Morvane;
 
 namespace Plugin {
 
@@ -50,6 +51,7 @@ class PluginSettingsDialogBox : public FX::FXDialogBox {
   PluginSettingsDialogBox() = default;
 
  private:
+  void buildFoot(const Morvane* app);
   DBTable* findTable() const;
   bool canDelete();
 
