@@ -18,10 +18,8 @@ class CommandLineTest : public AppTest {
 
 }  // namespace
 
-TEST_F(CommandLineTest, WithoutCommandItNamesTheCommands) {
-  expectWrong({},
-              "Az ablakok még nem készültek el, adjon meg parancsot: init, list, check, print, export, save, derive, "
-              "copy, close, storno, find, backup vagy plugins. Segítség: brontel-host --help");
+TEST_F(CommandLineTest, WithoutCommandItNeedsADisplay) {
+  expectWrong({}, "Nincs elérhető képernyő (DISPLAY). Parancsokkal e nélkül is használható: brontel-host --help");
 }
 
 TEST_F(CommandLineTest, AnUnknownCommandIsRefused) {
