@@ -14,6 +14,7 @@ class ItemDataComboEntry : public ItemDataEntry {
 
   ItemDataComboEntry* clone(Entity* owner) const override;
   bool canHandleType(int code) const override;
+  void addWidget(FX::FXComposite* parent, MemoryGuard<FX::FXDataTarget>& targets) override;
   FX::FXTableItem* getTableItem() override;
   FX::FXString getValue() const override;
 

@@ -13,6 +13,7 @@ class ItemDataDateEntry : public ItemDataEntry {
 
   ItemDataDateEntry* clone(Entity* owner) const override;
   bool canHandleType(int code) const override;
+  void addWidget(FX::FXComposite* parent, MemoryGuard<FX::FXDataTarget>& targets) override;
 };
 
 }  // namespace Brontel::Plugin::ItemData

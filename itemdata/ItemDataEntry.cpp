@@ -15,6 +15,7 @@
 #include "itemdata/CheckMessage.h"
 #include "itemdata/Codes.h"
 #include "itemdata/DerivedQuantity.h"
+#include "itemdata/EditorLayout.h"
 #include "itemdata/EntrySelect.h"
 #include "itemdata/ItemDataEntryTableItem.h"
 #include "itemdata/ItemDataList.h"
@@ -111,13 +112,14 @@ void ItemDataEntry::check(int itemIndex, ListOfMessage& messages, FXString prefi
 }
 
 void ItemDataEntry::addWidget(FX::FXComposite* parent, MemoryGuard<FX::FXDataTarget>& targets) {
-  constexpr FX::FXint kColumns = 2;
-  constexpr FX::FXint kPad = 2;
-  constexpr FX::FXuint kOptions = FX::FRAME_SUNKEN | FX::FRAME_RAISED | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_COLUMN;
+  new FX::FXTextField(parent, kEditorColumns, addTarget(targets), FX::FXDataTarget::ID_VALUE, kEditorOptions, 0, 0, 0,
+                      0, kEditorPad, kEditorPad, kEditorPad, kEditorPad);
+}
+
+FX::FXDataTarget* ItemDataEntry::addTarget(MemoryGuard<FX::FXDataTarget>& targets) {
   auto* target = new FX::FXDataTarget(value);
   targets.append(target);
-  new FX::FXTextField(parent, kColumns, target, FX::FXDataTarget::ID_VALUE, kOptions, 0, 0, 0, 0, kPad, kPad, kPad,
-                      kPad);
+  return target;
 }
 
 FX::FXTableItem* ItemDataEntry::getTableItem() {

@@ -79,6 +79,8 @@ class ItemDataEntry : public EntityMiscData {
   const InvoiceItem* getItem() const;
   /// Copies what a clone keeps.
   void copyFieldsTo(ItemDataEntry& clone) const;
+  /// A new data target bound to the value, owned by targets.
+  FX::FXDataTarget* addTarget(MemoryGuard<FX::FXDataTarget>& targets);
 
  private:
   class DBVL;

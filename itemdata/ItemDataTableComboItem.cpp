@@ -1,6 +1,7 @@
 #include "itemdata/ItemDataTableComboItem.h"
 
 #include "fxext/values/FXStringIterator.h"
+#include "fxext/widgets/FXComboBox.h"
 
 namespace Brontel::Plugin::ItemData {
 
@@ -15,14 +16,20 @@ void ItemDataComboEntry::ItemDataTableComboItem::setText(const FXString& text) {
 
 FX::FXWindow* ItemDataComboEntry::ItemDataTableComboItem::getControlFor(FX::FXTable* table) {
   constexpr FX::FXint kMostVisible = 20;
-  FX::FXWindow* control = FXComboTableItem::getControlFor(table);
-  auto* combo = dynamic_cast<FX::FXComboBox*>(control);
-  if (combo == nullptr) return control;
-  combo->clearItems();
+  auto* combo = new FXExt::FXComboBox(table, 1, nullptr, 0, FX::COMBOBOX_STATIC, 0, 0, 0, 0, table->getMarginLeft(),
+                                      table->getMarginRight(), table->getMarginTop(), table->getMarginBottom());
+  combo->create();
+  combo->setJustify(FX::JUSTIFY_LEFT);
+  combo->setFont(table->getFont());
+  combo->setBackColor(table->getBackColor());
+  combo->setTextColor(table->getTextColor());
+  combo->setSelBackColor(table->getSelBackColor());
+  combo->setSelTextColor(table->getSelTextColor());
   for (FXStringIterator choice(selections, '\n', 0); choice.hasNext(); ++choice) combo->appendItem(choice.get());
-  combo->setText(getText());
   combo->setNumVisible(FXMIN(kMostVisible, combo->getNumItems()));
-  return control;
+  combo->setCurrentItem(combo->findItem(getText()));
+  combo->setText(getText());
+  return combo;
 }
 
 }  // namespace Brontel::Plugin::ItemData

@@ -13,7 +13,7 @@ class ItemDataComboEntry::ItemDataTableComboItem : public FX::FXComboTableItem {
   ItemDataTableComboItem() : FXComboTableItem(FX::FXString()) {}
 
   void setText(const FX::FXString& text) override;
-  /// The editor with all choices; FOX's own stops filling it at the first empty one.
+  /// The editor, with type-ahead and all choices; FOX's own stops filling it at the first empty one.
   FX::FXWindow* getControlFor(FX::FXTable* table) override;
 };
 

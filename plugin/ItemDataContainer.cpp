@@ -6,9 +6,12 @@
 #include "itemdata/Codes.h"
 #include "model/InitDB.h"
 #include "plugin/InvoiceCheck.h"
+#include "plugin/InvoiceItemMenu.h"
 #include "plugin/InvoiceItemPlugin.h"
-#include "plugin/ItemDataIcons.h"
+#include "plugin/ItemDataAssociationPanel.h"
 #include "plugin/Prototypes.h"
+#include "plugin/SettingsRun.h"
+#include "ui/ItemDataIcons.h"
 
 namespace Brontel::Plugin::ItemData {
 
@@ -40,7 +43,9 @@ FX::FXIcon* ItemDataContainer::getIcon16() {
 
 int ItemDataContainer::init() {
   if (!Prototypes::isRegistered(this)) {
+    modules_.append(new ItemDataAssociationPanel::Plugin(this));
     modules_.append(new InvoiceCheck(this));
+    modules_.append(new InvoiceItemMenu(this));
     modules_.append(new InvoiceItemPlugin(this, kWeight, kWeight, 0, kWeight, kWeight));
     Prototypes::add(this);
   }
@@ -49,7 +54,7 @@ int ItemDataContainer::init() {
 }
 
 long ItemDataContainer::onSettings(FX::FXObject*, FX::FXSelector, void*) {
-  return 1;
+  return getApp() == nullptr ? 1 : SettingsRun(*this, *getApp()).run();
 }
 
 long ItemDataContainer::onHasSettings(FX::FXObject*, FX::FXSelector, void*) {

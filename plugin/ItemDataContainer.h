@@ -18,6 +18,7 @@ class ItemDataContainer : public PluginContainer {
   /// Always 1: missing tables show as missing data and are tried again at the next start. Again on the same container
   /// it only looks after the tables.
   int init() override;
+  /// Lets the user edit the item variables and stores them. 1 also when the user changes their mind.
   long onSettings(FX::FXObject*, FX::FXSelector, void*) override;
   long onHasSettings(FX::FXObject*, FX::FXSelector, void*) override;
 

@@ -16,7 +16,8 @@ class RepairItemDataMessageEvent : public MessageEvent {
   /// parent is the invoice form, or null when the check runs without windows.
   RepairItemDataMessageEvent(FX::FXWindow* parent, InvoiceItem* item);
 
-  /// Asks the form to check again. Neither argument is used.
+  /// Opens the item data dialog, then asks the form to check again. Neither argument is used. The event may be gone
+  /// when this returns. Without a window on the screen, or for an item that its invoice has lost, there is no dialog.
   void execute(Message* message, int arg) override;
 
   FX::FXWindow* getParent() const { return parent_; }

@@ -38,7 +38,7 @@ class Messages : public ListOfMessage {
 class InvoiceCheckTest : public testing::Test {
  protected:
   int check(Invoice* invoice, ListOfMessage& messages, FX::FXWindow* parent = nullptr) {
-    auto* plugin = static_cast<InvoiceCheckPlugin*>(world_.container().getModules()[0]);
+    auto* plugin = static_cast<InvoiceCheckPlugin*>(world_.container().getModules()[1]);
     return plugin->checkInvoice(parent, invoice, messages, "X");
   }
   InvoiceItem* addItem(Brontel::GoodsKind kind, int goods, const char* quantity = "1") {

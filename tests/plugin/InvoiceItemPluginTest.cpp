@@ -333,7 +333,7 @@ TEST_F(InvoiceItemPluginTest, givesTheDataAwayForGood) {
   {
     const std::unique_ptr<PluginContainer> other(get_plugin(&world_.app()));
     other->init();
-    static_cast<EntityPlugin*>(other->getModules()[1])->load(item);
+    static_cast<EntityPlugin*>(other->getModules()[3])->load(item);
   }
   ASSERT_NE(dataOf(item), nullptr);
   addRow(item, {"5", "S1"});
@@ -351,7 +351,7 @@ TEST_F(InvoiceItemPluginTest, findsNothingWithoutADatabase) {
   EXPECT_EQ(item->getMiscData("ItemData"), nullptr);
   const std::unique_ptr<PluginContainer> lost(get_plugin(nullptr));
   lost->init();
-  EXPECT_EQ(static_cast<EntityPlugin*>(lost->getModules()[1])->load(item), 0);
+  EXPECT_EQ(static_cast<EntityPlugin*>(lost->getModules()[3])->load(item), 0);
   world_.app().setDB(world_.database().get());
 }
 

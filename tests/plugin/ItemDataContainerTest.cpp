@@ -15,7 +15,9 @@
 #include "model/InitDB.h"
 #include "plugin/GetPlugin.h"
 #include "plugin/InvoiceCheck.h"
+#include "plugin/InvoiceItemMenu.h"
 #include "plugin/InvoiceItemPlugin.h"
+#include "plugin/ItemDataAssociationPanel.h"
 #include "plugin/ItemDataContainer.h"
 #include "tests/support/RecordingObserver.h"
 #include "tests/support/TestDatabase.h"
@@ -28,6 +30,7 @@ using Brontel::Plugin::InvoiceItemMenuPlugin;
 using Brontel::Plugin::PluginContainer;
 using Brontel::Plugin::PluginModule;
 using Brontel::Plugin::ItemData::InvoiceCheck;
+using Brontel::Plugin::ItemData::InvoiceItemMenu;
 using Brontel::Plugin::ItemData::InvoiceItemPlugin;
 using Brontel::Plugin::ItemData::ItemDataContainer;
 using Brontel::Plugin::ItemData::plugins;
@@ -40,7 +43,7 @@ namespace {
 
 using Container = std::unique_ptr<PluginContainer>;
 
-constexpr FXint kModules = 2;
+constexpr FXint kModules = 4;
 
 /// Reaches what the base keeps for its subclasses.
 struct Base : PluginContainer {
@@ -136,11 +139,13 @@ TEST(ItemDataContainerTest, registersItsModulesInOrderEachOfItsOwnClass) {
   EXPECT_EQ(container->init(), 1);
   const auto& modules = container->getModules();
   ASSERT_EQ(modules.no(), kModules);
-  EXPECT_NE(dynamic_cast<InvoiceCheck*>(modules[0]), nullptr);
-  EXPECT_NE(dynamic_cast<InvoiceItemPlugin*>(modules[1]), nullptr);
-  const FX::FXMetaClass* const kinds[] = {&InvoiceCheckPlugin::metaClass, &EntityPlugin::metaClass,
-                                          &InvoiceItemMenuPlugin::metaClass,
-                                          &Brontel::Plugin::PanelProvider::Plugin::metaClass};
+  EXPECT_NE(dynamic_cast<Brontel::Plugin::ItemData::ItemDataAssociationPanel::Plugin*>(modules[0]), nullptr);
+  EXPECT_NE(dynamic_cast<InvoiceCheck*>(modules[1]), nullptr);
+  EXPECT_NE(dynamic_cast<InvoiceItemMenu*>(modules[2]), nullptr);
+  EXPECT_NE(dynamic_cast<InvoiceItemPlugin*>(modules[3]), nullptr);
+  const FX::FXMetaClass* const kinds[] = {&Brontel::Plugin::PanelProvider::Plugin::metaClass,
+                                          &InvoiceCheckPlugin::metaClass, &InvoiceItemMenuPlugin::metaClass,
+                                          &EntityPlugin::metaClass};
   for (FXint module = 0; module < modules.no(); ++module) {
     EXPECT_EQ(modules[module]->getContainer(), container.get());
     EXPECT_TRUE(modules[module]->isMemberOf(&PluginModule::metaClass));

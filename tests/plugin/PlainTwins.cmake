@@ -35,6 +35,7 @@ function(brontel_plain_twin name target type)
 endfunction()
 
 brontel_plain_twin(PLAIN_VALUES fxext_values OBJECT)
+brontel_plain_twin(PLAIN_WIDGETS fxext_widgets OBJECT)
 brontel_plain_twin(PLAIN_OBJECTS itemdata_objects OBJECT)
 brontel_plain_twin(PLAIN_CORE BrontelCore SHARED)
 brontel_plain_twin(PLAIN_PLUGIN BrontelPluginItemData MODULE)

@@ -102,7 +102,9 @@ class Probe {
 
   std::string lookAtClasses() const {
     if (*classes_ <= before_) return "the library has registered no classes";
-    for (const char* name : {"ItemDataStringEntry", "ItemDataDateEntry", "ItemDataComboEntry"}) {
+    for (const char* name : {"ItemDataStringEntry", "ItemDataDateEntry", "ItemDataComboEntry", "ItemDataTable",
+                             "ItemDataDialog", "ItemDataSettingsPanel", "ItemDataAssociationPanel", "FXExt::FXComboBox",
+                             "FXDatePicker", "FXDatePickerLabel", "FXDateInput", "FXDualList"}) {
       if (FX::FXMetaClass::getMetaClassFromName(name) == nullptr) return std::string("no class ") + name;
     }
     return "";

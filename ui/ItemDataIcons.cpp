@@ -1,4 +1,4 @@
-#include "plugin/ItemDataIcons.h"
+#include "ui/ItemDataIcons.h"
 
 namespace Brontel::Plugin::ItemData {
 

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "host/ui/Morvane.h"
-#include "plugin/ItemDataIcons.h"
+#include "ui/ItemDataIcons.h"
 
 using Brontel::makeIcon;
 using Brontel::Morvane;
