@@ -10,8 +10,8 @@
 #include "plugin/InvoiceItemPlugin.h"
 #include "plugin/ItemDataAssociationPanel.h"
 #include "plugin/Prototypes.h"
-#include "plugin/SettingsRun.h"
 #include "ui/ItemDataIcons.h"
+#include "ui/SettingsRun.h"
 
 namespace Brontel::Plugin::ItemData {
 

@@ -1,4 +1,4 @@
-#include "plugin/SettingsRun.h"
+#include "ui/SettingsRun.h"
 
 #include <libintl.h>
 
