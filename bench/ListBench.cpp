@@ -7,6 +7,7 @@
 #include "bench/Bench.h"
 #include "bench/PlainList.h"
 #include "bench/Workload.h"
+#include "host/database/StatementObserver.h"
 #include "host/database/Transaction.h"
 #include "host/message/ListOfMessage.h"
 #include "host/xml/Document.h"
@@ -30,6 +31,23 @@ struct Stored {
   int itemId() const { return Workload::itemOf(*invoice)->getId(); }
 
   std::unique_ptr<Invoice> invoice;
+};
+
+/// Counts the statements that run while it lives.
+class StatementCount : public Brontel::Database::StatementObserver {
+ public:
+  explicit StatementCount(MorvaneDatabase& database) : database_(database) { database_.setObserver(this); }
+  ~StatementCount() override { database_.setObserver(nullptr); }
+
+  bool beforeRun(const FX::FXString&, const Brontel::Database::BoundValues&) override {
+    ++count_;
+    return true;
+  }
+  int get() const { return count_; }
+
+ private:
+  MorvaneDatabase& database_;
+  int count_ = 0;
 };
 
 void load(benchmark::State& state) {
@@ -94,6 +112,9 @@ void saveAgain(benchmark::State& state) {
     state.ResumeTiming();
     savePlugin(state, *stored.invoice);
   }
+  StatementCount count(workload->database());
+  savePlugin(state, *stored.invoice);
+  state.counters["statements"] = count.get();
 }
 
 template <bool CHANGED>
@@ -151,6 +172,12 @@ void print(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(workload->plugins().toString(Workload::itemOf(*stored.invoice)));
 }
 
+/// As many variables as there are cells else, each recorded once with a value of its own.
+void printPerItem(benchmark::State& state) {
+  const std::unique_ptr<Invoice> invoice = workload->makePerItemInvoice(sizeOf(state) * Workload::kCellsInARow);
+  for (auto _ : state) benchmark::DoNotOptimize(workload->plugins().toString(Workload::itemOf(*invoice)));
+}
+
 void exportXml(benchmark::State& state) {
   const Stored stored(sizeOf(state));
   for (auto _ : state) {
@@ -173,6 +200,7 @@ void journey(benchmark::State& state) {
     for (FX::FXint i = before; i < list.no(); ++i) list[i]->value = "1";
     Brontel::ListOfMessage messages;
     workload->plugins().checkInvoice(nullptr, invoice.get(), messages, "INVOICE");
+    for (FX::FXint i = 0; i < messages.no(); ++i) delete messages[i];
     benchmark::DoNotOptimize(workload->plugins().toString(Workload::itemOf(*invoice)));
     XMLBuilder::Document document("invoice");
     workload->plugins().toXml(Workload::itemOf(*invoice), document.getRoot());
@@ -200,6 +228,7 @@ int main(int argc, char** argv) {
   measure("delete of all rows:plain", plainRemoveRows);
   measure("check:ours", check);
   measure("printable text:ours", print);
+  measure("printable text, no rows:ours", printPerItem);
   measure("XML export:ours", exportXml);
   measure("whole journey:ours", journey);
   {

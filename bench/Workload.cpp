@@ -5,6 +5,7 @@
 
 #include "host/entity/EntityTables.h"
 #include "itemdata/Codes.h"
+#include "itemdata/ItemDataPluginList.h"
 
 using Brontel::Invoice;
 using Brontel::InvoiceItem;
@@ -63,6 +64,24 @@ std::unique_ptr<Invoice> Workload::makeInvoice(int rows) {
                    : entry->itemvariable == 10 ? "SN" + FX::FXStringVal(100000 + i)
                    : entry->itemvariable == 11 ? FX::FXString("2027.05.31")
                                                : FX::FXString("green");
+  }
+  return invoice;
+}
+
+std::unique_ptr<Invoice> Workload::makePerItemInvoice(int cells) {
+  auto invoice = std::make_unique<Invoice>();
+  invoice->setTypeCode(101);
+  auto* item = new InvoiceItem;
+  invoice->appendItem(item);
+  auto* list = new ItemDataList(item, nullptr);
+  item->addMiscData(Brontel::Plugin::ItemData::kMiscDataKey, list);
+  for (int i = 0; i < cells; ++i) {
+    constexpr int kFirstVariable = 1000;
+    ItemDataEntry* entry = Brontel::Plugin::ItemData::plugins.getByType(Brontel::Plugin::ItemData::TYPE_TEXT, item);
+    entry->itemvariable = kFirstVariable + i;
+    entry->name = "Variable " + FX::FXStringVal(i);
+    entry->value = "V" + FX::FXStringVal(i);
+    list->append(entry);
   }
   return invoice;
 }

@@ -27,7 +27,9 @@ class Workload {
 
   /// A new invoice with one item of that many rows, all cells filled and different, not saved.
   std::unique_ptr<Brontel::Invoice> makeInvoice(int rows);
-  /// The same, saved; its key.
+  /// A new invoice whose item has that many cells recorded once per item, all different; not to be saved.
+  std::unique_ptr<Brontel::Invoice> makePerItemInvoice(int cells);
+  /// What makeInvoice makes, saved; its key.
   int saveInvoice(int rows);
   std::unique_ptr<Brontel::Invoice> load(int invoice);
   bool save(Brontel::Invoice& invoice);

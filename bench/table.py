@@ -19,7 +19,7 @@ def read(files):
                     sys.exit(f"{run['name']}: {run['error_message']}")
                 subject, rest = run["name"].split(":")
                 who, size = rest.split("/")
-                counters = {key: run[key] for key in run if key == "bytes per cell"}
+                counters = {key: run[key] for key in ("bytes per cell", "statements") if key in run}
                 subjects.setdefault(subject, {}).setdefault(who, {})[int(size)] = (run["cpu_time"], counters)
     return subjects
 
@@ -47,7 +47,7 @@ def rows(subjects):
         for size in whos[first]:
             time, counters = whos[first][size]
             if "bytes per cell" in counters:
-                yield [subject, str(size), f"{counters['bytes per cell']:.0f} B/cell", "", "", ""]
+                yield [subject, str(size), f"{counters['bytes per cell']:.0f} B/cell", "", "", "", ""]
                 continue
             references = [(who, sizes[size][0]) for who, sizes in whos.items() if who != first and size in sizes]
             yield [
@@ -57,11 +57,12 @@ def rows(subjects):
                 ", ".join(f"{who} {show_time(other)}" for who, other in references),
                 ", ".join(f"{time / other:.2f}" for _, other in references),
                 growth(whos[first], size),
+                f"{counters['statements']:.0f}" if "statements" in counters else "",
             ]
 
 
 def main():
-    table = [["subject", "size", "ours", "reference", "ratio", "growth"], *rows(read(sys.argv[1:]))]
+    table = [["subject", "size", "ours", "reference", "ratio", "growth", "statements"], *rows(read(sys.argv[1:]))]
     widths = [max(len(row[column]) for row in table) for column in range(len(table[0]))]
     for number, row in enumerate(table):
         print("| " + " | ".join(cell.ljust(width) for cell, width in zip(row, widths)) + " |")

@@ -2,7 +2,8 @@
 # shellcheck shell=bash disable=SC2034
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libfox-1.6-dev libsqlite3-dev libxml2-dev)
-test_packages=(binutils fonts-dejavu-core libgtest-dev libx11-dev libxtst-dev locales sqlite3 xauth xvfb)
+test_packages=(binutils fonts-dejavu-core libbenchmark-dev libboost-dev libgtest-dev libx11-dev libxtst-dev locales
+  python3 sqlite3 valgrind xauth xvfb)
 # The cases of the decimal conformance test come with Python's own tests, in a package named after its version.
 case $(. /etc/os-release 2>/dev/null && echo "$VERSION_CODENAME") in
   noble) test_packages+=(libpython3.12-testsuite) ;;
