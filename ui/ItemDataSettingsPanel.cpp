@@ -72,6 +72,12 @@ void ItemDataSettingsPanel::create() {
 
 void ItemDataSettingsPanel::setColumnTexts() {
   table_->setTableSize(0, COLUMNS);
+  // FOX's own height cuts what reaches below the line.
+  constexpr FXint kHeaderMargin = 8;
+  if (table_->getFont()->id() != 0) {
+    table_->setColumnHeaderMode(FX::LAYOUT_FIX_HEIGHT);
+    table_->setColumnHeaderHeight(table_->getFont()->getFontHeight() + kHeaderMargin);
+  }
   setColumn(NAME, dgettext(kTextDomain, "Név"), 140);
   setColumn(TYPE, dgettext(kTextDomain, "Típus"), 70);
   setColumn(PER_UNIT, dgettext(kTextDomain, "Egységenként rögzítendő"), 60);
@@ -152,7 +158,7 @@ bool ItemDataSettingsPanel::checkItemList() {
                                 dgettext(kTextDomain, "Kérem töltse ki a hiányzó adatokat!"));
   table_->killSelection(TRUE);
   table_->setCurrentItem(row, findFault(row), TRUE);
-  table_->setAnchorItem(row, findFault(row));
+  table_->handle(this, FXSEL(FX::SEL_COMMAND, DBTable::ID_MARK), nullptr);
   table_->makePositionVisible(row, findFault(row));
   table_->setFocus();
   return false;

@@ -18,6 +18,7 @@ dbTableMap[] = {
     FXMAPFUNC(FX::SEL_KEYPRESS, 0, DBTable::onKeyPress),
     FXMAPFUNC(FX::SEL_COMMAND, DBTable::ID_NEW_ROW, DBTable::onCmdNewRow),
     FXMAPFUNC(FX::SEL_COMMAND, DBTable::ID_PASTE_SEL, DBTable::onCmdPasteSel),
+    FXMAPFUNC(FX::SEL_COMMAND, DBTable::ID_MARK, DBTable::onCmdMark),
 };
 
 FXIMPLEMENT(DBTable, FXTable, dbTableMap, ARRAYNUMBER(dbTableMap))
@@ -251,7 +252,7 @@ long DBTable::onCmdNewRow(FX::FXObject*, FX::FXSelector, void*) {
   const int row = appendNewRow();
   killSelection(TRUE);
   setCurrentItem(row, 0, TRUE);
-  setAnchorItem(row, 0);
+  handle(this, FXSEL(FX::SEL_COMMAND, ID_MARK), nullptr);
   makePositionVisible(row, 0);
   setFocus();
   return 1;
@@ -274,6 +275,13 @@ long DBTable::onKeyPress(FX::FXObject* sender, FX::FXSelector sel, void* ptr) {
   // The window that holds the table may have a use for it.
   if (editor == nullptr && event->code == FX::KEY_Escape) return 0;
   return FXTable::onKeyPress(sender, sel, ptr);
+}
+
+// A cell that is gone to by key is selected as one that is clicked, so that people see where they are.
+long DBTable::onCmdMark(FX::FXObject* sender, FX::FXSelector sel, void* ptr) {
+  FXTable::onCmdMark(sender, sel, ptr);
+  if (isCell(getCurrentRow(), getCurrentColumn())) extendSelection(getCurrentRow(), getCurrentColumn(), TRUE);
+  return 1;
 }
 
 // FOX's list cannot be accepted by key, and accepts by itself what the arrows pass.

@@ -77,6 +77,7 @@ class DBTable : public FX::FXTable {
   long onCmdNewRow(FX::FXObject*, FX::FXSelector, void*);
   long onKeyPress(FX::FXObject* sender, FX::FXSelector sel, void* ptr);
   long onCmdPasteSel(FX::FXObject*, FX::FXSelector, void*);
+  long onCmdMark(FX::FXObject* sender, FX::FXSelector sel, void* ptr);
 
  protected:
   DBTable() = default;

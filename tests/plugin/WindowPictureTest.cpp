@@ -62,6 +62,8 @@ TEST_F(WindowPictureTest, theSettings) {
   openSettings({[this](FXWindow* dialog) {
     user.giveKeyboardTo(dialog);
     user.key(FX::KEY_Down);
+    EXPECT_TRUE(tableOf(dialog).hasFocus());
+    EXPECT_EQ(tableOf(dialog).getCurrentRow(), 1);
     look(dialog, "settings");
     user.clickCell(&tableOf(dialog), 2, 1);
     user.key(FX::KEY_F2);

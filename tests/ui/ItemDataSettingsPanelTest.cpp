@@ -37,6 +37,7 @@ class ItemDataSettingsPanelTest : public SettingsFixture {
       if (!dialog->shown()) return;
       outcome = std::to_string(table.getCurrentRow()) + "/" + std::to_string(table.getCurrentColumn());
       EXPECT_TRUE(table.hasFocus());
+      EXPECT_TRUE(table.isItemSelected(table.getCurrentRow(), table.getCurrentColumn()));
       for (size_t i = 0; i < rows.size(); ++i) {
         for (size_t column = 0; column < rows[i].size(); ++column) {
           EXPECT_EQ(rows[i][column], table.getStoredValue(static_cast<int>(i), static_cast<int>(column)).text());

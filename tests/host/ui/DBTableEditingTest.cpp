@@ -161,6 +161,8 @@ TEST_F(DBTableEditingTest, goesOnByKeyboardAlone) {
   user.type("q");
   user.key(FX::KEY_Return);
   user.key(FX::KEY_Down);
+  EXPECT_TRUE(table->isItemSelected(1, 0)) << "people see where they are";
+  EXPECT_FALSE(table->isItemSelected(0, 0));
   user.type("uj");
   user.key(FX::KEY_Return);
   EXPECT_EQ(row(0), "7 q 1 0 x");
