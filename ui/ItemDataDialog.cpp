@@ -18,7 +18,6 @@
 namespace Brontel::Plugin::ItemData {
 
 using FX::FXint;
-using FX::FXObject;
 using FX::FXSelector;
 using FX::FXWindow;
 using FXExt::FXDecimal;
@@ -280,14 +279,16 @@ long ItemDataDialog::onKeyPress(FXObject* sender, FXSelector sel, void* ptr) {
   const bool isEnter = code == FX::KEY_Return || code == FX::KEY_KP_Enter;
   FXWindow* focus = this;
   while (focus->getFocus() != nullptr) focus = focus->getFocus();
-  const auto* field = dynamic_cast<const FX::FXTextField*>(focus);
-  FXWindow* input = field == nullptr ? nullptr : inputAround(focus);
-  // An open list or calendar wants the key for itself.
-  if (!isEnter || input == nullptr || getApp()->getPopupWindow() != nullptr) {
-    return FXDialogBox::onKeyPress(sender, sel, ptr);
+  FXWindow* input = inputAround(focus);
+  if (!isEnter || input == nullptr) return FXDialogBox::onKeyPress(sender, sel, ptr);
+  // An open list or calendar has the key for itself, and the button nothing of it.
+  if (getApp()->getPopupWindow() != nullptr) {
+    getFocus()->handle(sender, sel, ptr);
+    return 1;
   }
-  // A field that cannot be typed into would beep.
-  if (field->isEditable()) FXDialogBox::onKeyPress(sender, sel, ptr);
+  // Whatever takes no text would beep.
+  const auto* field = dynamic_cast<const FX::FXTextField*>(focus);
+  if (field != nullptr && field->isEditable()) FXDialogBox::onKeyPress(sender, sel, ptr);
   for (; input != this; input = input->getParent()) {
     if (input->getParent()->handle(this, FXSEL(FX::SEL_FOCUS_NEXT, 0), ptr)) break;
   }

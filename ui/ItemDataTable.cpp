@@ -12,7 +12,6 @@
 namespace Brontel::Plugin::ItemData::UI {
 
 using FX::FXint;
-using FX::FXObject;
 using FX::FXSelector;
 
 FXDEFMAP(ItemDataTable)
@@ -124,6 +123,8 @@ long ItemDataTable::onContextMenu(FXObject*, FXSelector, void* ptr) {
 }
 
 long ItemDataTable::onAddRow(FXObject*, FXSelector, void*) {
+  // A quantity that is just being typed counts for what the new row is offered.
+  acceptInput(true);
   insertRows(getNumRows(), 1, false);
   if (target != nullptr) target->tryHandle(this, FXSEL(FX::SEL_COMMAND, ID_ADD_ROW), this);
   if (getNumColumns() > 0) moveTo(getNumRows() - 1, firstEmptyColumn(getNumRows() - 1), false);
@@ -137,6 +138,8 @@ long ItemDataTable::onDeleteRow(FXObject*, FXSelector, void*) {
   }
   for (auto row = chosen.rbegin(); row != chosen.rend(); ++row) {
     if (*row >= getNumRows()) continue;
+    // FOX's messages carry a number in place of their pointer.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
     void* index = reinterpret_cast<void*>(static_cast<FX::FXival>(*row));
     if (target != nullptr) target->tryHandle(this, FXSEL(FX::SEL_COMMAND, ItemDataTable::ID_DELETE_ROW), index);
     removeRows(*row, 1, false);

@@ -13,7 +13,6 @@
 namespace Brontel::Plugin::ItemData::UI {
 
 using FX::FXint;
-using FX::FXObject;
 using FX::FXSelector;
 
 namespace {

@@ -221,18 +221,24 @@ TEST_F(ItemDataDialogInputsTest, insAndDelInAFieldDoNotReachTheTable) {
   EXPECT_EQ(table()->getNumRows(), 1);
 }
 
-TEST_F(ItemDataDialogInputsTest, anOpenListTakesEnterForItself) {
+TEST_F(ItemDataDialogInputsTest, anOpenListDoesNotEndTheDialogByEnter) {
   ItemDataList& list = newListOf(perItemSettings());
+  list.at(2)->value = "kék";
   open();
   auto* combo = dynamic_cast<FXExt::FXComboBox*>(input(2)->getFirst());
   user.click(descendantsOf<FX::FXMenuButton>(combo).front());
   ASSERT_TRUE(combo->isPaneShown());
-  user.key(FX::KEY_Down);
-  user.key(FX::KEY_Down);
   user.key(FX::KEY_Return);
-  EXPECT_FALSE(combo->isPaneShown());
   EXPECT_TRUE(dialog->shown());
-  EXPECT_NE(list.at(2)->value.text()[0], '\0');
+  // The first arrow goes into the list, the second chooses.
+  user.key(FX::KEY_Up);
+  user.key(FX::KEY_Up);
+  EXPECT_FALSE(combo->isPaneShown());
+  EXPECT_STREQ(list.at(2)->value.text(), "piros");
+  EXPECT_TRUE(isIn(2));
+  user.key(FX::KEY_Return);
+  EXPECT_TRUE(dialog->shown());
+  EXPECT_EQ(focus(), okButton());
 }
 
 TEST_F(ItemDataDialogInputsTest, showChoicesAsConfigured) {

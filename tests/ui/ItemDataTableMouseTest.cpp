@@ -58,6 +58,19 @@ TEST_F(ItemDataTableMouseTest, theMenuAddsARow) {
   EXPECT_EQ(list.no(), 12);
 }
 
+TEST_F(ItemDataTableMouseTest, theOpenMenuTakesKeys) {
+  open();
+  withMenu(1, 1, [this](FX::FXWindow&) {
+    user.key(FX::KEY_Down);
+    user.key(FX::KEY_Down);
+    user.key(FX::KEY_Return);
+  });
+  EXPECT_EQ(shown(), (Texts{"1|A|kék", "2|C|"}));
+  // And no longer once it is closed.
+  user.key(FX::KEY_Insert);
+  EXPECT_EQ(shown().size(), 3u);
+}
+
 TEST_F(ItemDataTableMouseTest, theMenuDeletesTheRowUnderThePointer) {
   open();
   goTo(0, 1);
@@ -157,6 +170,16 @@ TEST_F(ItemDataTableMouseTest, theMenuKeepsTheCellBeingEditedElsewhere) {
   user.type("kept");
   withMenu(2, 0, [this](FX::FXWindow&) { choose(1); });
   EXPECT_EQ(shown(), (Texts{"1|kept|kék", "2|B|piros"}));
+}
+
+TEST_F(ItemDataTableMouseTest, aNewRowCountsTheQuantityBeingTyped) {
+  item.setQuantity(FXExt::FXDecimal("10", 4));
+  open();
+  clickCell(0, 0);
+  user.type("4");
+  withMenu(0, 1, [this](FX::FXWindow&) { choose(0); });
+  EXPECT_EQ(shown().front(), "4|A|kék");
+  EXPECT_EQ(shown().back(), "2||");
 }
 
 TEST_F(ItemDataTableMouseTest, aDoubleClickEdits) {
