@@ -11,6 +11,7 @@ target_include_directories(brontel_warnings INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(brontel_warnings INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
   -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align -Wformat=2 -Wno-overloaded-virtual -Wno-deprecated-enum-enum-conversion
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-deprecated-anon-enum-enum-conversion>
   -Werror)
 
 # A unique symbol would keep the plug-in in memory after dlclose.

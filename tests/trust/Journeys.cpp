@@ -4,16 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include "host/database/DeleteStatement.h"
 #include "host/database/InsertStatement.h"
 #include "host/database/Transaction.h"
-#include "host/database/UpdateStatement.h"
 #include "host/entity/EntityTables.h"
 #include "model/InitDB.h"
 #include "tests/support/FileConnection.h"
+#include "ui/ItemDataSettingsPersister.h"
 
 using Brontel::Invoice;
 using Brontel::Database::Transaction;
+using Brontel::Plugin::ItemData::ItemDataSettingsPersister;
 using Result = PluginWorld::Result;
 
 namespace {
@@ -79,40 +79,16 @@ void addUnusedVariable(FaultWorld& world) {
           "values (99,'Felesleges',1,0,0,'')");
 }
 
-void bindVariable(Statement& statement, const char* name, int type, const char* choices) {
-  statement.setString("name", name);
-  statement.setInt("type", type);
-  statement.setInt("process", 0);
-  statement.setInt("mandatory", 1);
-  statement.setString("vvalue", choices);
-}
-
-bool insertVariable(MorvaneDatabase& database, const char* name, int type, const char* choices) {
-  const int id = database.nextId("t_itemvariable");
-  if (id == 0) return false;
-  InsertStatement insert(&database, "t_itemvariable");
-  insert.setInt("t_itemvariable_id", id);
-  insert.setString("name", name);
-  if (insert.execute(nullptr, 1) == 0) return false;
-  UpdateStatement update(&database, "t_itemvariable", "t_itemvariable_id=%t_itemvariable_id");
-  update.setInt("t_itemvariable_id", id);
-  bindVariable(update, name, type, choices);
-  return update.execute(nullptr, 1) != 0;
-}
-
 bool saveVariables(FaultWorld& world) {
-  MorvaneDatabase& database = world.handle();
-  Transaction transaction(database);
+  using Fields = std::map<FX::FXString, FX::FXString>;
+  Transaction transaction(world.handle());
   if (!transaction.isOpen()) return false;
-  DeleteStatement remove(&database, "t_itemvariable");
-  remove.setInt("t_itemvariable_id", 99);
-  remove.execute(nullptr, 1);
-  UpdateStatement update(&database, "t_itemvariable", "t_itemvariable_id=%t_itemvariable_id");
-  update.setInt("t_itemvariable_id", SampleGoods::NOTE);
-  bindVariable(update, "Megjegyzés 2", 3, "a,b,c");
-  update.execute(nullptr, 1);
-  insertVariable(database, "Első új", 1, "");
-  insertVariable(database, "Második új", 3, "x,y");
+  ItemDataSettingsPersister persister(&world.handle());
+  persister.deleteItem(99);
+  persister.updateItem(SampleGoods::NOTE, Fields{{"name", "Megjegyzés 2"}, {"type", "3"}, {"vvalue", "a,b,c"}});
+  persister.insertItem(
+      Fields{{"name", "Első új"}, {"type", "1"}, {"process", "1"}, {"mandatory", "1"}, {"vvalue", ""}});
+  persister.insertItem(Fields{{"name", "Második új"}, {"type", "3"}, {"process", "0"}, {"vvalue", "x,y"}});
   return transaction.commit();
 }
 

@@ -1,0 +1,141 @@
+"""Makes seeded mutants of a copy of the sources, one at a time, and counts those that the tests notice.
+
+Called by tests/mutation/run. A mutant flips one condition or changes one constant. One that does not compile is no
+mutant and another is drawn for it. A test that fails, crashes or takes far too long has noticed the mutant."""
+
+import pathlib
+import random
+import re
+import subprocess
+import sys
+import time
+
+FOLDERS = ("itemdata", "fxext/values")
+# What is built, and which of it is run for a folder.
+PROGRAMS = {"itemdata": ("itemdata_test", "plugin_test"), "fxext/values": ("fxext_values_test", "itemdata_test")}
+LONGEST = 120
+
+FLIPS = (
+    (r"==", "!="), (r"!=", "=="), (r"(?<= )<(?= )", "<="), (r"(?<= )<=(?= )", "<"), (r"(?<= )>(?= )", ">="),
+    (r"(?<= )>=(?= )", ">"), (r"&&", "||"), (r"\|\|", "&&"), (r"\btrue\b", "false"), (r"\bfalse\b", "true"),
+    (r"\+\+", "--"), (r"(?<!-)--(?!>)", "++"), (r"(?<= )\+(?= )", "-"), (r"(?<= )-(?= )", "+"),
+    (r"\+=", "-="), (r"(?<![\w.'])0(?![\w.'x])", "1"), (r"(?<![\w.'])1(?![\w.'])", "2"),
+    (r"(?<![\w.'])([2-9]|[1-9]\d+)(?![\w.'])", None), (r"\bif \((?!constexpr)", "if (!("),
+)
+
+
+def code_of(line):
+    """The line with comments and texts blanked out, each character in its place."""
+    blanked = re.sub(r'"(\\.|[^"\\])*"|\'(\\.|[^\'\\])*\'', lambda found: "~" * len(found.group()), line)
+    comment = blanked.find("//")
+    return blanked if comment < 0 else blanked[:comment] + " " * (len(blanked) - comment)
+
+
+def closing(code, start):
+    """Where the parenthesis ends that opens just before start; None when it does so on another line."""
+    depth = 1
+    for at in range(start, len(code)):
+        depth += {"(": 1, ")": -1}.get(code[at], 0)
+        if depth == 0:
+            return at
+    return None
+
+
+def changed(line, code, found, to):
+    if to == "if (!(":
+        end = closing(code, found.end())
+        if end is None or ";" in code[found.end():end]:
+            return None
+        return line[:found.start()] + to + line[found.end():end] + ")" + line[end:]
+    if to is None:
+        to = str(int(found.group()) + 1)
+    return line[:found.start()] + to + line[found.end():]
+
+
+def mutants_of(tree):
+    for folder in FOLDERS:
+        for path in sorted((tree / folder).glob("*.cpp")):
+            for number, line in enumerate(path.read_text().split("\n")):
+                if line.lstrip().startswith(("#", "//", "static_assert")):
+                    continue
+                code = code_of(line)
+                for pattern, to in FLIPS:
+                    for found in re.finditer(pattern, code):
+                        new = changed(line, code, found, to)
+                        if new is not None and new != line:
+                            yield folder, path, number, line, new
+
+
+def build(objects, programs):
+    done = subprocess.run(["cmake", "--build", objects, "--target", *programs], capture_output=True, text=True)
+    return done.returncode == 0, done.stdout
+
+
+def noticed(objects, programs):
+    """The program that fails, or None."""
+    for program in programs:
+        try:
+            run = subprocess.run([objects / "tests" / program, "--gtest_fail_fast", "--gtest_brief=1"],
+                                 capture_output=True, timeout=LONGEST)
+        except subprocess.TimeoutExpired:
+            return program + " (time)"
+        if run.returncode != 0:
+            return program
+    return None
+
+
+def read_equivalent(path):
+    reasons = {}
+    for line in path.read_text().split("\n"):
+        if line and not line.startswith("#"):
+            file, old, new, reason = (part.strip() for part in line.split(" | "))
+            reasons[file, old, new] = reason
+    return reasons
+
+
+def main():
+    tree, objects = (pathlib.Path(argument) for argument in sys.argv[1:3])
+    count, seed = int(sys.argv[3]), int(sys.argv[4])
+    equivalent = read_equivalent(pathlib.Path(sys.argv[5]))
+    everything = sorted({program for programs in PROGRAMS.values() for program in programs})
+    fine, output = build(objects, everything)
+    if not fine:
+        sys.exit("the copy does not build:\n" + output[-3000:])
+    if noticed(objects, everything):
+        sys.exit("the tests fail without any change")
+    candidates = list(mutants_of(tree))
+    random.Random(seed).shuffle(candidates)
+    print(f"{len(candidates)} possible changes, seed {seed}", flush=True)
+    tried = killed = 0
+    survivors = []
+    for folder, path, number, line, new in candidates:
+        if tried == count:
+            break
+        text = path.read_text()
+        lines = text.split("\n")
+        lines[number] = new
+        path.write_text("\n".join(lines))
+        start = time.monotonic()
+        fine, _ = build(objects, PROGRAMS[folder])
+        by = noticed(objects, PROGRAMS[folder]) if fine else None
+        path.write_text(text)
+        if not fine:
+            continue
+        tried += 1
+        killed += by is not None
+        name = path.relative_to(tree)
+        print(f"{tried} {name}:{number + 1} {by or 'SURVIVED'} {time.monotonic() - start:.0f} s", flush=True)
+        if by is None:
+            survivors.append((str(name), number + 1, line.strip(), new.strip()))
+    print()
+    unexplained = 0
+    for name, number, line, new in survivors:
+        reason = equivalent.get((name, line, new))
+        unexplained += reason is None
+        print(f"{name}:{number}\n  - {line}\n  + {new}\n  {reason or 'no reason known: the tests lack something'}")
+    print(f"{killed} of {tried} noticed ({100 * killed / max(1, tried):.1f} %), {len(survivors)} survived, "
+          f"{unexplained} of them unexplained")
+    sys.exit(0 if tried == count and killed >= 0.9 * tried and unexplained == 0 else 1)
+
+
+main()
