@@ -1,5 +1,7 @@
 #include "app/WindowRun.h"
 
+#include <cstdlib>
+
 #include <libintl.h>
 
 #include "app/CommandLine.h"
@@ -43,7 +45,9 @@ bool WindowRun::openDisplay(char* program) {
   arguments_[0] = program;
   app_.init(argumentCount_, arguments_, false);
   FoxTexts::install(&app_);
-  return app_.openDisplay();
+  // Without a name the toolkit would try one of its own, which may be somebody else's screen.
+  const char* display = std::getenv("DISPLAY");
+  return display != nullptr && *display != '\0' && app_.openDisplay(display);
 }
 
 // They have gone by themselves unless something else than closing the main window has ended the program.

@@ -15,12 +15,12 @@ FXIMPLEMENT(AboutDialog, FXDialogBox, nullptr, 0)
 
 namespace {
 
-constexpr FX::FXint kWidth = 560;
+constexpr FX::FXint kWidth = 700;
 constexpr FX::FXint kHeight = 360;
 
 // In a label, a single "&" marks a key, and a tab begins the tip.
 FXString labelText(const FXString& text) {
-  FXString label = Dialogs::wrapped(text);
+  FXString label = Dialogs::wrapped(text).trim();
   return label.substitute("&", "&&").substitute('\t', ' ');
 }
 

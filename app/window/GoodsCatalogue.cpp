@@ -79,13 +79,15 @@ const GoodsCatalogue::Goods* GoodsCatalogue::find(const FXString& text) const {
 const GoodsCatalogue::Goods* GoodsCatalogue::findBeginning(const FXString& text) const {
   const FXString wanted = folded(text);
   if (wanted.empty()) return nullptr;
+  const Goods* byCode = nullptr;
   const Goods* containing = nullptr;
   for (const Goods& goods : goods_) {
     const FXString label = folded(goods.getLabel());
-    if (label.left(wanted.length()) == wanted || folded(goods.code).left(wanted.length()) == wanted) return &goods;
+    if (label.left(wanted.length()) == wanted) return &goods;
+    if (byCode == nullptr && folded(goods.code).left(wanted.length()) == wanted) byCode = &goods;
     if (containing == nullptr && label.find(wanted) >= 0) containing = &goods;
   }
-  return containing;
+  return byCode != nullptr ? byCode : containing;
 }
 
 }  // namespace Brontel::App

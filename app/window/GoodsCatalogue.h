@@ -29,7 +29,8 @@ class GoodsCatalogue {
   const std::vector<Goods>& getGoods() const { return goods_; }
   /// The goods of that label, name or code, in any case; null when there are none or several.
   const Goods* find(const FX::FXString& text) const;
-  /// The first goods whose label or code begins with the text, or failing that contains it, in any case; null for none.
+  /// The first goods whose label begins with the text, failing that the code, failing that contains it, in any case;
+  /// null for none.
   const Goods* findBeginning(const FX::FXString& text) const;
 
  private:

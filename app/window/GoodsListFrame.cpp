@@ -7,6 +7,7 @@
 
 #include "app/ErrorText.h"
 #include "app/window/GoodsWindow.h"
+#include "app/window/Headers.h"
 #include "app/window/Workspace.h"
 #include "host/entity/GoodsRepository.h"
 #include "host/ui/WaitCursor.h"
@@ -82,6 +83,7 @@ void GoodsListFrame::buildList() {
 
 void GoodsListFrame::create() {
   FXVerticalFrame::create();
+  fitHeaders(*list_->getHeader());
   if (!isFilled_) refresh();
 }
 

@@ -8,9 +8,9 @@
 #include "app/window/InvoiceEditForm.h"
 #include "app/window/InvoiceEditor.h"
 #include "app/window/MessagePane.h"
-#include "app/window/WaitCursor.h"
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
+#include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
 

@@ -12,10 +12,10 @@
 #include "app/window/ItemGrid.h"
 #include "app/window/MessagePane.h"
 #include "app/window/TextPreview.h"
-#include "app/window/WaitCursor.h"
 #include "app/window/WindowIcons.h"
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
+#include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
 

@@ -4,8 +4,8 @@
 
 #include "app/window/InvoiceTexts.h"
 #include "app/window/RowCollector.h"
-#include "app/window/WaitCursor.h"
 #include "app/window/Workspace.h"
+#include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
 

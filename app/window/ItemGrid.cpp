@@ -71,7 +71,7 @@ void ItemGrid::showItems(const Invoice& invoice) {
     setRowText(row, FX::FXStringVal(row + 1));
     showItem(row, *invoice.getItems()[row]);
   }
-  if (getCurrentRow() < 0) goTo(0, GOODS);
+  if (getCurrentRow() < 0 || getCurrentColumn() < 0) goTo(0, GOODS);
 }
 
 void ItemGrid::showItem(FXint row, const InvoiceItem& item) {

@@ -15,11 +15,11 @@
 #include "app/window/OpenWindow.h"
 #include "app/window/RecordedDataFrame.h"
 #include "app/window/RowList.h"
-#include "app/window/WaitCursor.h"
 #include "app/window/WindowIcons.h"
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
 #include "host/plugin/PluginContainer.h"
+#include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
 

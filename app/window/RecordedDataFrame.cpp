@@ -4,9 +4,9 @@
 
 #include "app/RecordedData.h"
 #include "app/window/RowCollector.h"
-#include "app/window/WaitCursor.h"
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
+#include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
 
@@ -45,12 +45,12 @@ RecordedDataFrame::RecordedDataFrame(FX::FXComposite* parent, Workspace& workspa
   auto* frame = new FX::FXVerticalFrame(
       this, FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
   list_ = new RowList(frame, receiver, sel, "RecordedData");
-  list_->addColumn(gettext("Érték"), 150);
-  list_->addColumn(gettext("Változó"), 140);
-  list_->addColumn(gettext("Tétel"), 190);
-  list_->addColumn(gettext("Számla"), 110);
-  list_->addColumn(gettext("Irány"), 80);
-  list_->addColumn(gettext("Partner"), 170);
+  list_->addColumn(gettext("Érték"), 135);
+  list_->addColumn(gettext("Változó"), 120);
+  list_->addColumn(gettext("Tétel"), 175);
+  list_->addColumn(gettext("Számla"), 115);
+  list_->addColumn(gettext("Irány"), 72);
+  list_->addColumn(gettext("Partner"), 150);
   list_->addColumn(gettext("Kelt"), 90);
   result_ = new FX::FXLabel(this, gettext("Írja be a keresett érték egy részét, majd nyomjon Entert."), nullptr,
                             FX::JUSTIFY_LEFT | FX::LAYOUT_FILL_X);

@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int kLongestWaitMs = 20000;
+constexpr int kBriefWaitMs = 1000;
 constexpr long kLongestTitle = 1024;
 
 // Windows of another program may go while one asks about them.
@@ -23,8 +24,8 @@ int ignoreError(Display*, XErrorEvent*) {
   return 0;
 }
 
-bool poll(const std::function<bool()>& condition) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(kLongestWaitMs);
+bool poll(const std::function<bool()>& condition, int longestMs = kLongestWaitMs) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(longestMs);
   while (!condition()) {
     if (std::chrono::steady_clock::now() > end) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
@@ -98,11 +99,6 @@ unsigned long XWindows::find(const std::string& title) {
   return found;
 }
 
-unsigned long XWindows::top() {
-  const std::vector<Shown> windows = shown();
-  return windows.empty() ? 0 : windows.back().window;
-}
-
 XWindows::Place XWindows::placeOf(unsigned long window) {
   XWindowAttributes attributes;
   if (XGetWindowAttributes(connection_->display, window, &attributes) == 0) return {};
@@ -117,6 +113,10 @@ unsigned long XWindows::waitFor(const std::string& title) {
   unsigned long found = 0;
   if (!poll([&] { return (found = find(title)) != 0; })) fail("no window \"" + title + "\"");
   return found;
+}
+
+bool XWindows::waitBriefly(const std::string& title) {
+  return poll([&] { return find(title) != 0; }, kBriefWaitMs);
 }
 
 bool XWindows::waitUntilGone(const std::string& title) {

@@ -25,14 +25,14 @@ class XWindows {
   std::vector<std::string> titles();
   /// The uppermost window that is shown under exactly that title; 0 for none.
   unsigned long find(const std::string& title);
-  /// The uppermost window that is shown; 0 for none.
-  unsigned long top();
   Place placeOf(unsigned long window);
   /// How many windows are shown, menus included.
   size_t count();
 
   /// Waits until there is such a window, and returns it; 0, and a test failure, if none comes.
   unsigned long waitFor(const std::string& title);
+  /// Waits a second at most for such a window; whether it has come.
+  bool waitBriefly(const std::string& title);
   /// Waits until there is none any more.
   bool waitUntilGone(const std::string& title);
   bool waitForCount(size_t count);

@@ -226,7 +226,7 @@ TEST_F(MainWindowTest, namesThePlugInsAndWhyOneIsMissing) {
   const Brontel::Plugin::PluginContainer* plugin = registry.getContainers().front();
   EXPECT_NE(boxes()[0].find(plugin->getName().text()), std::string::npos);
   EXPECT_NE(boxes()[0].find(plugin->getVersion().text()), std::string::npos);
-  EXPECT_NE(boxes()[0].find(Brontel::App::Dialogs::wrapped(plugin->getDescription()).text()), std::string::npos)
+  EXPECT_NE(boxes()[0].find(Brontel::App::Dialogs::wrapped(plugin->getDescription()).trim().text()), std::string::npos)
       << boxes()[0];
 }
 
