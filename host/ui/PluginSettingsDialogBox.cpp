@@ -107,7 +107,9 @@ void PluginSettingsDialogBox::show(FX::FXuint placement) {
   DBTable* table = findTable();
   if (table == nullptr) return;
   table->setFocus();
-  if (table->getCurrentRow() >= 0 || table->getNumRows() == 0) return;
+  // Rows that come into an empty table make FOX's current cell one without column.
+  const bool hasCurrent = table->getCurrentRow() >= 0 && table->getCurrentColumn() >= 0;
+  if (hasCurrent || table->getNumRows() == 0) return;
   table->setCurrentItem(0, 0, TRUE);
   table->handle(this, FXSEL(FX::SEL_COMMAND, DBTable::ID_MARK), nullptr);
 }

@@ -64,6 +64,7 @@ TEST_F(WindowPictureTest, theSettings) {
     user.key(FX::KEY_Down);
     EXPECT_TRUE(tableOf(dialog).hasFocus());
     EXPECT_EQ(tableOf(dialog).getCurrentRow(), 1);
+    EXPECT_TRUE(tableOf(dialog).isItemSelected(1, 0));
     look(dialog, "settings");
     user.clickCell(&tableOf(dialog), 2, 1);
     user.key(FX::KEY_F2);
