@@ -1,7 +1,9 @@
 // Ten thousand rows: each thing that people do takes no time that they notice, and twice the rows no more than about
 // twice the time.
 
+#include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <iostream>
 
 #include <fxkeys.h>
@@ -31,11 +33,19 @@ class ManyRowsTest : public DialogFixture {
     item.setQuantity(FXExt::FXDecimal(rows + 1, 0, 4));
   }
 
+  /// What somebody waits.
   template <typename Work>
   static double seconds(Work work) {
     const Clock::time_point start = Clock::now();
     work();
     return std::chrono::duration<double>(Clock::now() - start).count();
+  }
+  /// What the processor works, whatever else the machine does.
+  template <typename Work>
+  static double labour(Work work) {
+    const std::clock_t start = std::clock();
+    work();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
   }
 
   /// Whether nothing of a row is scrolled out of sight.
@@ -70,6 +80,13 @@ TEST_F(ManyRowsTest, openScrollAddDeleteAndClose) {
   goTo(kMany / 2, 1);
   report("delete", seconds([this] { user.key(FX::KEY_Delete); }));
   EXPECT_EQ(table()->getNumRows(), kMany);
+  user.key('a', {FX::KEY_Control_L});
+  report("cut all", seconds([this] { user.key('x', {FX::KEY_Control_L}); }));
+  EXPECT_EQ(shown().back(), "||");
+  report("put back", seconds([this] { user.key('v', {FX::KEY_Control_L}); }));
+  report("delete all", seconds([this] { user.key(FX::KEY_Delete); }));
+  // Every second one, as the rows then stand.
+  EXPECT_EQ(table()->getNumRows(), kMany / 2);
   report("close", seconds([this] {
            user.click(okButton());
            close();
@@ -89,8 +106,13 @@ TEST_F(ManyRowsTest, openingGrowsWithTheRows) {
   double times[2];
   for (const int i : {0, 1}) {
     fill(i == 0 ? kFew : kMany);
-    times[i] = seconds([this] { build(); });
+    times[i] = labour([this] { build(); });
     close();
+    // The least of several, since other programs empty the processor's caches.
+    for (int again = 0; again < 4; ++again) {
+      times[i] = std::min(times[i], labour([this] { build(); }));
+      close();
+    }
   }
   report("build few", times[0]);
   report("build many", times[1]);
@@ -104,13 +126,13 @@ TEST_F(ManyRowsTest, oneRowMoreOrLessGrowsWithTheRows) {
   for (const int i : {0, 1}) {
     fill(i == 0 ? kFew : kMany);
     build();
-    added[i] = seconds([this] {
+    added[i] = labour([this] {
       for (int n = 0; n < kRepetitions; ++n) {
         table()->handle(form, FXSEL(FX::SEL_COMMAND, ItemDataTable::ID_ADD_ROW), nullptr);
       }
     });
     table()->setCurrentItem(1, 0);
-    deleted[i] = seconds([this] {
+    deleted[i] = labour([this] {
       for (int n = 0; n < kRepetitions; ++n) {
         table()->handle(form, FXSEL(FX::SEL_COMMAND, ItemDataTable::ID_DELETE_ROW), nullptr);
       }
@@ -137,7 +159,7 @@ TEST_F(ManyRowsTest, aLongListOfNumbersIsPastedAtOnce) {
     goTo(0, 0);
     user.putOnClipboard(lines);
     user.giveKeyboardTo(dialog.get());
-    times[i] = seconds([this] { user.key('v', {FX::KEY_Control_L}); });
+    times[i] = labour([this] { user.key('v', {FX::KEY_Control_L}); });
     ASSERT_EQ(table()->getNumRows(), rows);
     EXPECT_EQ(shown().back(), "1|SN-" + std::to_string(rows) + "|");
     EXPECT_EQ(list.no(), 3 * rows);
