@@ -60,6 +60,18 @@ TEST_F(MorvaneDatabaseLockTest, goesOnAsSoonAsTheLockIsGone) {
   EXPECT_EQ(database->getFailures(), 0);
 }
 
+TEST_F(MorvaneDatabaseLockTest, doesNotAddUpWaitsThatHadAnEnd) {
+  for (int i = 0; i < 8; ++i) {
+    other.exec("begin exclusive");
+    std::thread release([this] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(700));
+      other.exec("commit");
+    });
+    EXPECT_TRUE(database->run("insert into t values (1)")) << i;
+    release.join();
+  }
+}
+
 TEST_F(MorvaneDatabaseLockTest, refusesATransactionBeforeItHasStarted) {
   other.exec("begin immediate");
   {
