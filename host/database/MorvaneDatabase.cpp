@@ -142,9 +142,11 @@ int MorvaneDatabase::runPrepared(const FXString& sql, const BoundValues& values,
   PreparedStatement* cached = prepareCached(sql, code);
   if (cached == nullptr) return code;
   if (!cached->isRunning()) {
+    const std::chrono::milliseconds waitedBefore = waited_;
     code = cached->run(values, loader);
-    // Reading says nothing about the lock of a writer: one that stays would be waited for again after each look.
-    if (code == SQLITE_DONE && !cached->isReadOnly()) waited_ = std::chrono::milliseconds(0);
+    // A look that nobody hinders says nothing about the lock of a writer, which would be waited for again after each.
+    const bool locked = !cached->isReadOnly() || waited_ != waitedBefore;
+    if (code == SQLITE_DONE && locked) waited_ = std::chrono::milliseconds(0);
     return code;
   }
   // A loader that runs the statement which is feeding it needs a second cursor.

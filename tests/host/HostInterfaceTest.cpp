@@ -18,6 +18,7 @@
 #include "host/schema/Schema.h"
 #include "host/ui/DBTable.h"
 #include "host/ui/DBTablePersister.h"
+#include "host/ui/GoodsDataWindow.h"
 #include "host/ui/InvoiceForm.h"
 #include "host/ui/InvoiceItemTable.h"
 #include "host/ui/Morvane.h"
@@ -106,9 +107,10 @@ TEST(HostInterfaceTest, classesAreKnownToFoxWithTheirBases) {
       {Brontel::DBTable::metaClass, FX::FXTable::metaClass, "DBTable"},
       {Brontel::InvoiceItemTable::metaClass, FX::FXTable::metaClass, "InvoiceItemTable"},
       {Brontel::PanelisedWindow::metaClass, FX::FXTopWindow::metaClass, "PanelisedWindow"},
-      {Brontel::ProductDataWindow::metaClass, Brontel::PanelisedWindow::metaClass, "ProductDataWindow"},
-      {Brontel::ServiceDataWindow::metaClass, Brontel::PanelisedWindow::metaClass, "ServiceDataWindow"},
-      {Brontel::SuiteDataWindow::metaClass, Brontel::PanelisedWindow::metaClass, "SuiteDataWindow"},
+      {Brontel::GoodsDataWindow::metaClass, Brontel::PanelisedWindow::metaClass, "GoodsDataWindow"},
+      {Brontel::ProductDataWindow::metaClass, Brontel::GoodsDataWindow::metaClass, "ProductDataWindow"},
+      {Brontel::ServiceDataWindow::metaClass, Brontel::GoodsDataWindow::metaClass, "ServiceDataWindow"},
+      {Brontel::SuiteDataWindow::metaClass, Brontel::GoodsDataWindow::metaClass, "SuiteDataWindow"},
   };
   for (const Known& known : classes) {
     EXPECT_STREQ(known.meta.getClassName(), known.name);

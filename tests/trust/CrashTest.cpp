@@ -52,7 +52,8 @@ class CrashTest : public ProcessTest {
     std::cout << kills << " kills: " << counts_.inside << " inside a transaction, " << counts_.committing
               << " in its commit, " << counts_.outside << " outside; " << counts_.reported
               << " saves were reported and all are there\n";
-    EXPECT_GE(counts_.inside, kills / 3);
+    // A commit is the end of a transaction and takes most of its time on a slow disk.
+    EXPECT_GE(counts_.inside + counts_.committing, kills / 3);
   }
 
  private:
