@@ -11,12 +11,16 @@
 #include "host/database/Transaction.h"
 #include "host/message/ListOfMessage.h"
 #include "host/xml/Document.h"
+#include "ui/ItemDataDialog.h"
+#include "ui/ItemDataTable.h"
 
 namespace {
 
 using Brontel::Invoice;
 using Brontel::InvoiceItem;
 using Brontel::Database::Transaction;
+using Brontel::Plugin::ItemData::ItemDataDialog;
+using Brontel::Plugin::ItemData::UI::ItemDataTable;
 
 void load(Workload& workload, int rows) {
   const std::unique_ptr<Invoice> stored = workload.load(workload.saveInvoice(rows));
@@ -103,15 +107,67 @@ void copy(Workload& workload, int rows) {
   CALLGRIND_TOGGLE_COLLECT;
 }
 
+/// The dialog on a list of that many rows, in a window of its own on the display.
+struct Opened {
+  Opened(Workload& workload, int rows)
+      : owner(new FX::FXMainWindow(FX::FXApp::instance(), "probe")), invoice(workload.makeInvoice(rows)) {
+    owner->getApp()->create();
+    CALLGRIND_TOGGLE_COLLECT;
+    dialog = std::make_unique<ItemDataDialog>(owner, Workload::itemOf(*invoice));
+    dialog->create();
+    CALLGRIND_TOGGLE_COLLECT;
+  }
+
+  static ItemDataTable* tableIn(FX::FXWindow* window) {
+    if (auto* table = dynamic_cast<ItemDataTable*>(window)) return table;
+    for (FX::FXWindow* child = window->getFirst(); child != nullptr; child = child->getNext()) {
+      if (ItemDataTable* table = tableIn(child)) return table;
+    }
+    return nullptr;
+  }
+
+  void send(FX::FXSelector message) {
+    CALLGRIND_ZERO_STATS;
+    CALLGRIND_TOGGLE_COLLECT;
+    tableIn(dialog.get())->handle(nullptr, FXSEL(FX::SEL_COMMAND, message), nullptr);
+    CALLGRIND_TOGGLE_COLLECT;
+  }
+
+  FX::FXMainWindow* owner;
+  std::unique_ptr<Invoice> invoice;
+  std::unique_ptr<ItemDataDialog> dialog;
+};
+
+void dialogOpen(Workload& workload, int rows) {
+  const Opened opened(workload, rows);
+}
+
+void dialogAdd(Workload& workload, int rows) {
+  Opened(workload, rows).send(ItemDataTable::ID_ADD_ROW);
+}
+
+void dialogDelete(Workload& workload, int rows) {
+  Opened(workload, rows).send(ItemDataTable::ID_DELETE_ROW);
+}
+
 struct Step {
   const char* name;
   void (*run)(Workload&, int);
+  bool needsDisplay = false;
 };
 
-constexpr Step kSteps[] = {
-    {"load", load},   {"first-save", firstSave}, {"save-again", saveAgain},        {"delete", removeRows},
-    {"check", check}, {"print", print},          {"print-per-item", printPerItem}, {"export", exportXml},
-    {"copy", copy}};
+constexpr Step kSteps[] = {{"load", load},
+                           {"first-save", firstSave},
+                           {"save-again", saveAgain},
+                           {"delete", removeRows},
+                           {"check", check},
+                           {"print", print},
+                           {"print-per-item", printPerItem},
+                           {"export", exportXml},
+                           {"copy", copy},
+                           {"dialog-open", dialogOpen, true},
+                           {"dialog-add", dialogAdd, true},
+                           {"dialog-delete", dialogDelete, true}};
 
 }  // namespace
 
@@ -120,6 +176,7 @@ int main(int argc, char** argv) {
   for (const Step& step : kSteps) {
     if (std::string(step.name) != argv[1]) continue;
     Brontel::Morvane app;
+    if (step.needsDisplay) app.init(argc, argv);
     Workload workload(app);
     step.run(workload, std::atoi(argv[2]));
     return 0;
