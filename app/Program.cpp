@@ -18,8 +18,6 @@ int run(int argc, char* argv[]) {
   if (line.wantsHelp()) return print(helpText(), ExitCode::Done);
   if (line.wantsVersion()) return print("brontel-host " BRONTEL_VERSION "\n", ExitCode::Done);
   Morvane app;
-  // The toolkit has taken everything from the environment again.
-  prepareTranslation(localeDirectory);
   app.setLocaleDirectory(localeDirectory);
   return line.getCommand() == nullptr ? WindowRun(line, app).run(argv[0]) : CommandRun(line, app).run();
 }

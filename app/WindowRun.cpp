@@ -8,6 +8,7 @@
 #include "app/Console.h"
 #include "app/Paths.h"
 #include "app/PluginStart.h"
+#include "app/Translation.h"
 #include "app/window/FoxTexts.h"
 #include "app/window/MainWindow.h"
 #include "app/window/Workspace.h"
@@ -44,6 +45,8 @@ int WindowRun::run(char* program) {
 bool WindowRun::openDisplay(char* program) {
   arguments_[0] = program;
   app_.init(argumentCount_, arguments_, false);
+  // The toolkit has taken the language from the environment again. Typed letters depend on it once the display is open.
+  prepareTranslation(findLocaleDirectory());
   FoxTexts::install(&app_);
   // Without a name the toolkit would try one of its own, which may be somebody else's screen.
   const char* display = std::getenv("DISPLAY");

@@ -59,6 +59,20 @@ TEST_F(InvoiceEditFormTest, typesANewInvoiceByKeyboardAlone) {
       (Rows{{"Kontaktgél 250 ml", "1", "2", "2.5", "flakon", "990", "1"}}));
 }
 
+TEST_F(InvoiceEditFormTest, completesGoodsByNameByCodeAndByAnyPart) {
+  InvoiceEditForm& form = openNew();
+  command(form, InvoiceEditForm::ID_ADD_ITEM);
+  form.getGrid()->setFocus();
+  const std::pair<const char*, const char*> typed[] = {
+      {"fél", "Félautomata defibrillátor"}, {"gel", "Kontaktgél 250 ml"}, {"ülvizs", "Éves felülvizsgálat"}};
+  for (const auto& [text, name] : typed) {
+    form.getGrid()->goTo(0, ItemGrid::GOODS);
+    user.type(text);
+    user.key(FX::KEY_Return);
+    EXPECT_STREQ(form.getGrid()->getItemText(0, ItemGrid::GOODS).text(), name) << text;
+  }
+}
+
 TEST_F(InvoiceEditFormTest, walksThroughTheCellsAndOut) {
   InvoiceEditForm& form = open(kComplete);
   form.getGrid()->setFocus();
