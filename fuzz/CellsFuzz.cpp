@@ -12,7 +12,6 @@
 #include "host/xml/Element.h"
 
 using Brontel::Invoice;
-using Brontel::InvoiceItem;
 using Result = Brontel::InvoiceRepository::Result;
 
 namespace {

@@ -14,7 +14,7 @@ class Field {
  public:
   Field() {
     window_ = new FX::FXMainWindow(&app_, "fuzz");
-    input_ = new FXExt::FXDateInput(window_, nullptr, 0, 0);
+    input_ = new FXExt::FXDateInput(window_, nullptr);
   }
 
   FXExt::FXDateInput& input() { return *input_; }

@@ -36,10 +36,8 @@ class Pair {
   DecimalModel model;
 };
 
-void operate(FuzzInput& input, Pair& a, const Pair& b) {
-  const int operation = input.below(17);
-  const auto places = static_cast<signed char>(input.byte());
-  const long long whole = operation >= 10 && operation <= 14 ? input.number() : 0;
+// Two numbers.
+void combine(int operation, Pair& a, const Pair& b) {
   switch (operation) {
     case 0:
       a.number = a.number + b.number;
@@ -65,6 +63,16 @@ void operate(FuzzInput& input, Pair& a, const Pair& b) {
       a.number -= b.number;
       a.model -= b.model;
       break;
+    default:
+      require((a.number < b.number) == (a.model < b.model), "less");
+      require((a.number == b.number) == (a.model == b.model), "equal");
+      require((a.number >= b.number) == (a.model >= b.model), "at least");
+  }
+}
+
+// A number of decimal places.
+void shape(int operation, Pair& a, signed char places) {
+  switch (operation) {
     case 6:
       a.number.normalize();
       a.model.normalize();
@@ -81,6 +89,18 @@ void operate(FuzzInput& input, Pair& a, const Pair& b) {
       a.number = a.number.round(static_cast<char>(places));
       a.model = a.model.round(places);
       break;
+    case 15:
+      a.number.applyPrecision(places);
+      a.model.applyPrecision(places);
+      break;
+    default:
+      require(a.number.getPaddedLong(static_cast<char>(places)) == a.model.getPaddedLong(places), "padded");
+  }
+}
+
+// A whole number.
+void combine(int operation, Pair& a, long long whole) {
+  switch (operation) {
     case 10:
       a.number = a.number + whole;
       a.model = a.model + whole;
@@ -97,19 +117,20 @@ void operate(FuzzInput& input, Pair& a, const Pair& b) {
       a.number = a.number / whole;
       a.model = a.model / whole;
       break;
-    case 14:
+    default:
       a.number = whole;
       a.model = whole;
-      break;
-    case 15:
-      a.number.applyPrecision(places);
-      a.model.applyPrecision(places);
-      break;
-    default:
-      require((a.number < b.number) == (a.model < b.model), "less");
-      require((a.number == b.number) == (a.model == b.model), "equal");
-      require((a.number >= b.number) == (a.model >= b.model), "at least");
-      require(a.number.getPaddedLong(static_cast<char>(places)) == a.model.getPaddedLong(places), "padded");
+  }
+}
+
+void operate(FuzzInput& input, Pair& a, const Pair& b) {
+  const int operation = input.below(18);
+  if (operation <= 5 || operation == 17) {
+    combine(operation, a, b);
+  } else if (operation >= 10 && operation <= 14) {
+    combine(operation, a, input.number());
+  } else {
+    shape(operation, a, static_cast<signed char>(input.byte()));
   }
 }
 

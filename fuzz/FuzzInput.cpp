@@ -5,6 +5,6 @@
 
 void require(bool condition, const char* what) {
   if (condition) return;
-  std::fprintf(stderr, "does not hold: %s\n", what);
+  static_cast<void>(std::fprintf(stderr, "does not hold: %s\n", what));
   std::abort();
 }

@@ -31,7 +31,7 @@ class FuzzInput {
   /// What stands before the next occurrence of the mark, which is taken out too; all that is left when there is none.
   std::string until(char mark) {
     const size_t end = rest_.find(mark);
-    const std::string text(rest_.substr(0, end));
+    std::string text(rest_.substr(0, end));
     rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
     return text;
   }

@@ -16,7 +16,7 @@ int main(int argc, char* argv[]) {
       std::ifstream file(entry.path(), std::ios::binary);
       const std::vector<char> bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
       std::printf("%s\n", entry.path().c_str());
-      std::fflush(stdout);
+      static_cast<void>(std::fflush(stdout));
       LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
       ++files;
     }

@@ -1,5 +1,6 @@
 // %name parameters in any text become numbered ones, and everything else stays as it is.
 
+#include <cctype>
 #include <string>
 
 #include "fuzz/FuzzInput.h"
@@ -21,8 +22,10 @@ std::string namesPutBack(const SqlText& translated) {
   for (size_t at = 0; at < translated.text.size();) {
     const char c = translated.text[at];
     size_t end = at + 1;
-    while (c == '?' && end < translated.text.size() && std::isdigit(static_cast<unsigned char>(translated.text[end])))
-      ++end;
+    const auto isDigit = [&](size_t i) {
+      return i < translated.text.size() && std::isdigit(static_cast<unsigned char>(translated.text[i])) != 0;
+    };
+    while (c == '?' && isDigit(end)) ++end;
     if (c == '?' && end > at + 1) {
       const size_t number = std::stoul(translated.text.substr(at + 1, end - at - 1));
       require(number >= 1 && number <= translated.parameters.size(), "a number that has a name");
