@@ -55,15 +55,15 @@ bool WindowRun::openDisplay(char* program) {
 
 // They have gone by themselves unless something else than closing the main window has ended the program.
 void WindowRun::deleteWindows() {
-  FX::FXWindow* window = app_.getRootWindow()->getFirst();
-  while (window != nullptr) {
-    auto* top = dynamic_cast<FX::FXTopWindow*>(window);
-    window = window->getNext();
-    if (top == nullptr) continue;
+  FX::FXTopWindow* top = nullptr;
+  do {
     delete top;
-    // With it may have gone what came next.
-    window = app_.getRootWindow()->getFirst();
-  }
+    top = nullptr;
+    for (FX::FXWindow* window = app_.getRootWindow()->getFirst(); window != nullptr && top == nullptr;
+         window = window->getNext()) {
+      top = dynamic_cast<FX::FXTopWindow*>(window);
+    }
+  } while (top != nullptr);
 }
 
 bool WindowRun::loadPlugins() {

@@ -39,7 +39,7 @@ invoiceEditFormMap[] = {
     FXMAPFUNC(FX::SEL_COMMAND, InvoiceEditForm::ID_ADD_ITEM, InvoiceEditForm::onCmdAddItem),
     FXMAPFUNC(FX::SEL_COMMAND, InvoiceEditForm::ID_REMOVE_ITEM, InvoiceEditForm::onCmdRemoveItem),
     FXMAPFUNC(FX::SEL_COMMAND, InvoiceEditForm::ID_ITEM_MENU, InvoiceEditForm::onCmdItemMenu),
-    FXMAPFUNC(FX::SEL_UPDATE, InvoiceEditForm::ID_SAVE, InvoiceEditForm::onUpdSavable),
+    FXMAPFUNC(FX::SEL_UPDATE, InvoiceEditForm::ID_SAVE, InvoiceEditForm::onUpdEditable),
     FXMAPFUNC(FX::SEL_UPDATE, InvoiceEditForm::ID_CLOSE_INVOICE, InvoiceEditForm::onUpdEditable),
     FXMAPFUNC(FX::SEL_UPDATE, InvoiceEditForm::ID_ADD_ITEM, InvoiceEditForm::onUpdEditable),
     FXMAPFUNC(FX::SEL_UPDATE, InvoiceEditForm::ID_REMOVE_ITEM, InvoiceEditForm::onUpdEditable),
@@ -334,8 +334,9 @@ long InvoiceEditForm::onRepair(FX::FXObject*, FX::FXSelector, void*) {
   return 1;
 }
 
+// Always there: an entry that is only enabled once something has changed would miss a key that comes right after.
 long InvoiceEditForm::onCmdSave(FX::FXObject*, FX::FXSelector, void*) {
-  saveChanges();
+  if (editor_.isNew() || hasUnsavedChanges()) saveChanges();
   return 1;
 }
 
@@ -387,12 +388,6 @@ long InvoiceEditForm::onCmdCloseInvoice(FX::FXObject*, FX::FXSelector, void*) {
 
 long InvoiceEditForm::onUpdEditable(FX::FXObject* sender, FX::FXSelector, void*) {
   sender->handle(this, FXSEL(FX::SEL_COMMAND, editor_.isEditable() ? ID_ENABLE : ID_DISABLE), nullptr);
-  return 1;
-}
-
-long InvoiceEditForm::onUpdSavable(FX::FXObject* sender, FX::FXSelector, void*) {
-  const bool isSavable = editor_.isEditable() && (modified_ || editor_.isNew() || grid_->isEditing());
-  sender->handle(this, FXSEL(FX::SEL_COMMAND, isSavable ? ID_ENABLE : ID_DISABLE), nullptr);
   return 1;
 }
 

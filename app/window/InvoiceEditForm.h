@@ -87,7 +87,6 @@ class InvoiceEditForm : public InvoiceForm, public OpenWindow {
   long onCmdRemoveItem(FX::FXObject*, FX::FXSelector, void*);
   long onCmdItemMenu(FX::FXObject*, FX::FXSelector, void*);
   long onUpdEditable(FX::FXObject*, FX::FXSelector, void*);
-  long onUpdSavable(FX::FXObject*, FX::FXSelector, void*);
 
  protected:
   void checkAll() override;
