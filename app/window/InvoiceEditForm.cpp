@@ -336,7 +336,8 @@ long InvoiceEditForm::onRepair(FX::FXObject*, FX::FXSelector, void*) {
 
 // Always there: an entry that is only enabled once something has changed would miss a key that comes right after.
 long InvoiceEditForm::onCmdSave(FX::FXObject*, FX::FXSelector, void*) {
-  if (editor_.isNew() || hasUnsavedChanges()) saveChanges();
+  // What cannot be taken has been told; nothing else is saved behind its back.
+  if (acceptEditors() && (editor_.isNew() || editor_.hasChanged())) saveChanges();
   return 1;
 }
 
@@ -373,7 +374,8 @@ long InvoiceEditForm::onCmdCloseInvoice(FX::FXObject*, FX::FXSelector, void*) {
   const FXString question = fillIn(gettext("A lezárt számla többé nem módosítható.\n\nLezárja ezt a számlát: %s?"),
                                    {editor_.getInvoice().getDisplayText()});
   if (!Dialogs::confirm(this, gettext("Lezárás"), question)) return 1;
-  if ((hasUnsavedChanges() || editor_.isNew()) && !saveChanges()) return 1;
+  if (!acceptEditors()) return 1;
+  if ((editor_.isNew() || editor_.hasChanged()) && !saveChanges()) return 1;
   checkAll();
   if (messages_->hasBlocking()) {
     Dialogs::showError(this, gettext("A számlán van javítanivaló, ezért nem zárható le. Lásd az üzeneteket."));
