@@ -47,18 +47,18 @@ TEST(AllocationFaultTest, sampledFailuresThatStayLeaveAllOrNothing) {
   runWithFaults(Journal::WriteAhead, Mode::FromThenOn, kSample);
 }
 
-TEST(LongAllocationFaultTest, everyFailureLeavesAllOrNothing) {
+TEST(SoakAllocationFaultTest, everyFailureLeavesAllOrNothing) {
   runWithFaults(Journal::WriteAhead, Mode::Once, 1);
 }
 
-TEST(LongAllocationFaultTest, everyFailureThatStaysLeavesAllOrNothing) {
+TEST(SoakAllocationFaultTest, everyFailureThatStaysLeavesAllOrNothing) {
   runWithFaults(Journal::WriteAhead, Mode::FromThenOn, 1);
 }
 
-TEST(LongAllocationFaultTest, everyFailureWithARollbackJournalLeavesAllOrNothing) {
+TEST(SoakAllocationFaultTest, everyFailureWithARollbackJournalLeavesAllOrNothing) {
   runWithFaults(Journal::Rollback, Mode::Once, 1);
 }
 
-TEST(LongAllocationFaultTest, everyFailureThatStaysWithARollbackJournalLeavesAllOrNothing) {
+TEST(SoakAllocationFaultTest, everyFailureThatStaysWithARollbackJournalLeavesAllOrNothing) {
   runWithFaults(Journal::Rollback, Mode::FromThenOn, 1);
 }
