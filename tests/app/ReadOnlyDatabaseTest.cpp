@@ -48,8 +48,9 @@ TEST_F(ReadOnlyDatabaseTest, AnIndexThatIsMissingKeepsNobodyFromReading) {
   const std::string expected = output({"print", "1"});
   {
     FileConnection preparation(database);
-    preparation.exec("drop index " + preparation.rows("select name from sqlite_master where type='index' and "
-                                                      "tbl_name='t_invoiceitemdata' and sql is not null")
+    preparation.exec("drop index " + preparation
+                                         .rows("select name from sqlite_master where type='index' and "
+                                               "tbl_name='t_invoiceitemdata' and sql is not null")
                                          .at(0)
                                          .at(0));
   }

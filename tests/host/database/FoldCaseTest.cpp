@@ -1,8 +1,8 @@
-#include "host/database/FoldCase.h"
-
 #include <chrono>
 
 #include <gtest/gtest.h>
+
+#include "host/database/FoldCase.h"
 
 using Brontel::Database::foldCase;
 
