@@ -19,6 +19,17 @@ namespace Brontel::App {
 
 using FX::FXString;
 
+namespace {
+
+FX::FXTopWindow* findTopWindow(const FX::FXWindow& root) {
+  for (FX::FXint i = 0; FX::FXWindow* child = root.childAtIndex(i); ++i) {
+    if (auto* window = dynamic_cast<FX::FXTopWindow*>(child)) return window;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
 int WindowRun::run(char* program) {
   // Before the database, which is not to be made for nothing.
   if (!openDisplay(program)) {
@@ -53,17 +64,10 @@ bool WindowRun::openDisplay(char* program) {
   return display != nullptr && *display != '\0' && app_.openDisplay(display);
 }
 
-// They have gone by themselves unless something else than closing the main window has ended the program.
+// They have gone by themselves unless something else than closing the main window has ended the program. With one may
+// go others, so each is looked for anew.
 void WindowRun::deleteWindows() {
-  FX::FXTopWindow* top = nullptr;
-  do {
-    delete top;
-    top = nullptr;
-    for (FX::FXWindow* window = app_.getRootWindow()->getFirst(); window != nullptr && top == nullptr;
-         window = window->getNext()) {
-      top = dynamic_cast<FX::FXTopWindow*>(window);
-    }
-  } while (top != nullptr);
+  while (FX::FXTopWindow* window = findTopWindow(*app_.getRootWindow())) delete window;
 }
 
 bool WindowRun::loadPlugins() {

@@ -9,8 +9,6 @@
 
 namespace Brontel::App {
 
-using FX::FXString;
-
 FXDEFMAP(InvoiceListFrame)
 invoiceListFrameMap[] = {
     FXMAPFUNC(FX::SEL_CHANGED, InvoiceListFrame::ID_SEARCH, InvoiceListFrame::onSearch),

@@ -1,7 +1,6 @@
 #include "app/window/InvoiceTexts.h"
 
 #include <cctype>
-#include <cstdio>
 
 #include <libintl.h>
 
@@ -66,10 +65,10 @@ bool isDate(const FXString& text) {
     const bool isDigit = std::isdigit(static_cast<unsigned char>(text[i])) != 0;
     if (kPattern[i] == 'd' ? !isDigit : text[i] != kPattern[i]) return false;
   }
-  int year = 0;
-  int month = 0;
-  int day = 0;
-  if (std::sscanf(text.text(), "%d-%d-%d", &year, &month, &day) != 3) return false;
+  // Digits only, by now.
+  const FX::FXint year = FX::FXIntVal(text.left(4));
+  const FX::FXint month = FX::FXIntVal(text.mid(5, 2));
+  const FX::FXint day = FX::FXIntVal(text.mid(8, 2));
   return year >= 1 && month >= 1 && month <= 12 && day >= 1 && day <= daysOf(year, month);
 }
 
