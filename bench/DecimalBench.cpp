@@ -21,6 +21,7 @@ constexpr long long kScale = 10000;
 
 std::vector<std::string> texts() {
   std::vector<std::string> made;
+  made.reserve(kNumbers);
   for (int i = 0; i < kNumbers; ++i) {
     made.push_back(std::to_string(i * 7919 % 100000) + "." + std::to_string(1000 + i * 31 % 9000));
   }
@@ -49,8 +50,9 @@ struct Fixed {
   std::string print() const {
     char text[32];
     const long long size = std::llabs(value);
-    std::snprintf(text, sizeof text, "%s%lld.%04lld", value < 0 ? "-" : "", size / kScale, size % kScale);
-    return text;
+    const int length =
+        std::snprintf(text, sizeof text, "%s%lld.%04lld", value < 0 ? "-" : "", size / kScale, size % kScale);
+    return std::string(text, static_cast<size_t>(length));
   }
 };
 
@@ -189,6 +191,7 @@ struct Cell {
 /// The same cells as the list has, of which every fourth is a quantity.
 std::vector<Cell> cellsOf(int rows) {
   std::vector<Cell> cells;
+  cells.reserve(static_cast<size_t>(rows) * Workload::kCellsInARow);
   for (int i = 0; i < rows * Workload::kCellsInARow; ++i) {
     cells.push_back({i % Workload::kCellsInARow == 0 ? -1 : 10 + i % Workload::kCellsInARow, "1"});
   }

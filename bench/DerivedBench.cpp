@@ -9,7 +9,6 @@
 namespace {
 
 using Brontel::Invoice;
-using Brontel::InvoiceItem;
 
 constexpr int kDerivedInvoices = 50;
 constexpr int kClosed = 151;

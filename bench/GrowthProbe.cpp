@@ -1,8 +1,8 @@
 // Runs one step of an item's life at one size, so that a profiler can count what it takes: growth_probe STEP ROWS.
 // Only the step itself is counted.
 
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <valgrind/callgrind.h>
@@ -178,9 +178,9 @@ int main(int argc, char** argv) {
     Brontel::Morvane app;
     if (step.needsDisplay) app.init(argc, argv);
     Workload workload(app);
-    step.run(workload, std::atoi(argv[2]));
+    step.run(workload, static_cast<int>(std::strtol(argv[2], nullptr, 10)));
     return 0;
   }
-  std::fprintf(stderr, "no such step: %s\n", argv[1]);
+  std::cerr << "no such step: " << argv[1] << '\n';
   return 2;
 }

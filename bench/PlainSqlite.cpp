@@ -1,12 +1,12 @@
 #include "bench/PlainSqlite.h"
 
-#include <cstdio>
 #include <cstdlib>
+#include <iostream>
 
 namespace {
 
 [[noreturn]] void giveUp(sqlite3* handle) {
-  std::fprintf(stderr, "The reference failed: %s\n", sqlite3_errmsg(handle));
+  std::cerr << "The reference failed: " << sqlite3_errmsg(handle) << '\n';
   std::abort();
 }
 

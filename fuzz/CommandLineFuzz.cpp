@@ -12,6 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
   std::vector<std::string> words = {"brontel-host"};
   while (!input.empty() && words.size() < 20) words.push_back(input.until('\n'));
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   Brontel::App::CommandLine line;

@@ -11,7 +11,8 @@ using FXExt::FXStringIterator;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
   FuzzInput input(data, size);
   const char separator = static_cast<char>(input.byte());
-  const int start = static_cast<signed char>(input.byte());
+  // Before the text, in it, or behind it.
+  const int start = static_cast<int>(input.byte()) - 128;
   const std::string bytes = input.rest();
   const FXString text(bytes.data(), static_cast<FX::FXint>(bytes.size()));
   std::string whole;
