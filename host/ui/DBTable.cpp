@@ -287,7 +287,7 @@ long DBTable::onCmdMark(FX::FXObject* sender, FX::FXSelector sel, void* ptr) {
 // FOX's list cannot be accepted by key, and accepts by itself what the arrows pass.
 bool DBTable::onChoiceKey(FX::FXComboBox& choice, const FX::FXEvent& event) {
   const FXint current = choice.getCurrentItem();
-  FXint wanted = current;
+  FXint wanted = -1;
   if (event.code == FX::KEY_Return || event.code == FX::KEY_KP_Enter) {
     acceptInput(TRUE);
     return true;
