@@ -47,6 +47,37 @@ TEST_F(MistakesTest, aMissingValueIsMendedFromItsMessage) {
   quit();
 }
 
+TEST_F(MistakesTest, aWrongQuantityAndAMissingNumberAreMendedFromTheirMessage) {
+  start();
+  const unsigned long form = openInvoice("K-2025/0118");
+  ASSERT_NE(form, 0u);
+  const std::string title = "Félautomata defibrillátor egyéb tételadatai";
+  openByMessage(form, 0, title);
+  // The keyboard is in the first empty cell, that of the serial number. The new row has the quantity still missing.
+  events.type("DF5-1");
+  events.key(FX::KEY_Tab);
+  events.key(FX::KEY_Insert);
+  events.type("DF5-2");
+  events.key(FX::KEY_o, {FX::KEY_Alt_L});
+  windows.waitUntilGone(title);
+  use(std::string(kIncomplete) + " *");
+  // The two messages are gone: of the item there are two expiry dates left, and then comes the batch.
+  openByMessage(form, 2, "Kontaktgél 250 ml egyéb tételadatai");
+  events.type("KG-77");
+  events.key(FX::KEY_o, {FX::KEY_Alt_L});
+  use(std::string(kIncomplete) + " *");
+  events.key(FX::KEY_s, {FX::KEY_Control_L});
+  use(kIncomplete);
+  EXPECT_EQ(rows("select row, value from t_invoiceitemdata d join t_invoiceitem i on i.t_invoiceitem_id="
+                 "d.t_invoiceitem_1 where i.t_invoice_1=2 and i.position=1 and value<>'' order by row, "
+                 "t_invoiceitemdata_id"),
+            (Rows{{"1", "1"}, {"1", "DF5-1"}, {"2", "2"}, {"2", "DF5-2"}}));
+  EXPECT_EQ(output({"check", "2"}).find("1\t"), std::string::npos);
+  events.key(FX::KEY_w, {FX::KEY_Control_L});
+  windows.waitUntilGone(kIncomplete);
+  quit();
+}
+
 TEST_F(MistakesTest, aSaveThatFailsKeepsWhatWasTyped) {
   start();
   const std::string title = "Számla: K-2025/0117";
