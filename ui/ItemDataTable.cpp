@@ -63,6 +63,8 @@ void ItemDataTable::setFocus() {
   FXTable::setFocus();
   if (getCurrentRow() >= 0 || getNumRows() == 0 || getNumColumns() == 0) return;
   moveTo(0, firstEmptyColumn(0), false);
+  // Before the table has its size it scrolls to the last column, and the quantities would be cut off ever after.
+  setPosition(0, 0);
 }
 
 bool ItemDataTable::isCell(FXint row, FXint col) const {

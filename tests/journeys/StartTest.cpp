@@ -9,7 +9,19 @@
 
 namespace {
 
-class StartTest : public Journey {};
+class StartTest : public Journey {
+ protected:
+  /// Accepts the warning that the program has begun with, and expects that it opens invoices for reading only.
+  void expectOnlyLookedAt() {
+    use("Figyelmeztetés");
+    events.key(FX::KEY_Return);
+    windows.waitUntilGone("Figyelmeztetés");
+    use(mainTitle());
+    events.key(FX::KEY_o, {FX::KEY_Control_L});
+    EXPECT_NE(use("Számla: K-2025/0096/J1 (csak olvasható)"), 0u);
+    quit();
+  }
+};
 
 }  // namespace
 
@@ -58,13 +70,7 @@ TEST_F(StartTest, withoutPlugInsInvoicesAreOnlyLookedAt) {
   const std::string empty = directory.path("plugins");
   std::filesystem::create_directory(empty);
   startWith(commandLine({}, empty));
-  use("Figyelmeztetés");
-  events.key(FX::KEY_Return);
-  windows.waitUntilGone("Figyelmeztetés");
-  use(mainTitle());
-  events.key(FX::KEY_o, {FX::KEY_Control_L});
-  EXPECT_NE(use("Számla: K-2025/0096/J1 (csak olvasható)"), 0u);
-  quit();
+  expectOnlyLookedAt();
 }
 
 TEST_F(StartTest, withoutTheQuantityVariableInvoicesAreOnlyLookedAt) {
@@ -74,13 +80,7 @@ TEST_F(StartTest, withoutTheQuantityVariableInvoicesAreOnlyLookedAt) {
       "pragma foreign_keys=off; delete from t_itemvariable where t_itemvariable_id=-1;"
       "create trigger refuse before insert on t_itemvariable begin select raise(ignore); end");
   start();
-  use("Figyelmeztetés");
-  events.key(FX::KEY_Return);
-  windows.waitUntilGone("Figyelmeztetés");
-  use(mainTitle());
-  events.key(FX::KEY_o, {FX::KEY_Control_L});
-  EXPECT_NE(use("Számla: K-2025/0096/J1 (csak olvasható)"), 0u);
-  quit();
+  expectOnlyLookedAt();
 }
 
 TEST_F(StartTest, aBrokenPlugInStopsNobody) {

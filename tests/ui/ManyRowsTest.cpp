@@ -80,6 +80,15 @@ TEST_F(ManyRowsTest, openScrollAddDeleteAndClose) {
          }));
 }
 
+TEST_F(ManyRowsTest, opensUnscrolledWhereverTheCursorIs) {
+  ItemDataList& list = newListOf(perUnitSettings());
+  for (int row = 1; row <= 100; ++row) addRow(list, row, "1", "SN", row == 1 ? "" : "kék", 3 * row);
+  open();
+  EXPECT_EQ(cursor(), "0,2");
+  EXPECT_EQ(table()->getXPosition(), 0);
+  EXPECT_EQ(table()->getYPosition(), 0);
+}
+
 TEST_F(ManyRowsTest, eachNewRowIsInSight) {
   fill(10);
   open();
