@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <gtest/gtest.h>
+#include "tests/support/Failure.h"
 
 using FX::FXint;
 using FX::FXWindow;
@@ -41,7 +41,7 @@ class DialogUser::Stepper : public FX::FXObject {
   void giveUp(FXWindow* window) {
     idle_ = 0;
     if (window == nullptr) return;
-    ADD_FAILURE() << "nobody answers the window " << window->getClassName() << " " << boxTitle(window);
+    reportFailure(std::string("nobody answers the window ") + window->getClassName() + " " + boxTitle(window));
     app_->stopModal(window, 0);
     window->hide();
   }
@@ -72,7 +72,8 @@ void DialogUser::run(const std::function<void()>& something, std::vector<Step> s
   const size_t wanted = steps.size();
   const Stepper stepper(application_.get(), std::move(steps));
   something();
-  EXPECT_EQ(stepper.done, wanted) << "windows that opened";
+  if (stepper.done == wanted) return;
+  reportFailure(std::to_string(stepper.done) + " windows opened instead of " + std::to_string(wanted));
 }
 
 std::string boxTitle(const FXWindow* box) {
@@ -94,5 +95,5 @@ void answer(FXWindow* box, FX::FXuint command) {
     button->getTarget()->handle(button, FXSEL(FX::SEL_COMMAND, command), nullptr);
     return;
   }
-  ADD_FAILURE() << "the box has no such button: " << box->getClassName();
+  reportFailure(std::string("the box has no such button: ") + box->getClassName());
 }

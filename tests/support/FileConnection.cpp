@@ -1,7 +1,8 @@
 #include "tests/support/FileConnection.h"
 
-#include <gtest/gtest.h>
 #include <sqlite3.h>
+
+#include "tests/support/Failure.h"
 
 using Rows = std::vector<std::vector<std::string>>;
 
@@ -22,16 +23,19 @@ std::string literalOf(sqlite3_value* value) {
 }  // namespace
 
 FileConnection::FileConnection(const std::string& path) {
-  EXPECT_EQ(sqlite3_open(path.c_str(), &connection_), SQLITE_OK) << path << ": " << sqlite3_errmsg(connection_);
+  expectOk(sqlite3_open(path.c_str(), &connection_), path);
 }
 
 FileConnection::~FileConnection() {
   sqlite3_close(connection_);
 }
 
+void FileConnection::expectOk(int code, const std::string& what) {
+  if (code != SQLITE_OK) reportFailure(what + ": " + sqlite3_errmsg(connection_));
+}
+
 void FileConnection::exec(const std::string& script) {
-  EXPECT_EQ(sqlite3_exec(connection_, script.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
-      << script << ": " << sqlite3_errmsg(connection_);
+  expectOk(sqlite3_exec(connection_, script.c_str(), nullptr, nullptr, nullptr), script);
 }
 
 Rows FileConnection::rows(const std::string& sql) {
@@ -45,8 +49,7 @@ Rows FileConnection::literals(const std::string& sql) {
 Rows FileConnection::read(const std::string& sql, bool asLiterals) {
   Rows rows;
   sqlite3_stmt* statement = nullptr;
-  EXPECT_EQ(sqlite3_prepare_v2(connection_, sql.c_str(), -1, &statement, nullptr), SQLITE_OK)
-      << sql << ": " << sqlite3_errmsg(connection_);
+  expectOk(sqlite3_prepare_v2(connection_, sql.c_str(), -1, &statement, nullptr), sql);
   int code = sqlite3_step(statement);
   for (; code == SQLITE_ROW; code = sqlite3_step(statement)) {
     rows.emplace_back();
@@ -55,7 +58,7 @@ Rows FileConnection::read(const std::string& sql, bool asLiterals) {
       rows.back().push_back(asLiterals ? literalOf(value) : textOf(value));
     }
   }
-  EXPECT_EQ(code, SQLITE_DONE) << sql << ": " << sqlite3_errmsg(connection_);
+  expectOk(code == SQLITE_DONE ? SQLITE_OK : code, sql);
   sqlite3_finalize(statement);
   return rows;
 }

@@ -24,6 +24,7 @@ class FileConnection {
   std::vector<std::vector<std::string>> literals(const std::string& sql);
 
  private:
+  void expectOk(int code, const std::string& what);
   std::vector<std::vector<std::string>> read(const std::string& sql, bool asLiterals);
 
   sqlite3* connection_ = nullptr;

@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <thread>
 
-#include <gtest/gtest.h>
+#include "tests/support/Failure.h"
 
-TestApplication::TestApplication(MorvaneDatabase* database) {
+TestApplication::TestApplication(MorvaneDatabase* database, const std::string& screen) : display_(screen) {
   app_.setDB(database);
   // FOX leaves the process when it finds no display.
   if (!display_.isRunning()) std::abort();
@@ -37,7 +37,7 @@ bool TestApplication::waitUntil(const std::function<bool()>& condition, int mill
   const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
   while (!condition()) {
     if (std::chrono::steady_clock::now() > end) {
-      ADD_FAILURE() << "waited in vain";
+      reportFailure("waited in vain");
       return false;
     }
     processEvents();

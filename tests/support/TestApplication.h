@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "host/ui/Morvane.h"
 #include "tests/support/XDisplay.h"
@@ -8,8 +9,9 @@
 /// The host's application on a display of its own. FOX allows one application at a time in a process.
 class TestApplication {
  public:
-  /// Starts the display and connects to it. With a database the application has it as its own (borrowed).
-  explicit TestApplication(MorvaneDatabase* database = nullptr);
+  /// Starts the display, with a screen of that size and depth, and connects to it. With a database the application has
+  /// it as its own (borrowed).
+  explicit TestApplication(MorvaneDatabase* database = nullptr, const std::string& screen = "1280x1024x24");
   TestApplication(const TestApplication&) = delete;
   TestApplication& operator=(const TestApplication&) = delete;
   ~TestApplication();

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Failure.h"
 #include "tests/support/TemporaryDirectory.h"
 
 // The linker is told to look for this name, which brings this file into every test program: nothing else refers to it.
@@ -16,10 +17,16 @@ const int brontel_test_environment = 1;
 
 namespace {
 
+void failTest(const std::string& what) {
+  ADD_FAILURE() << what;
+}
+
 /// Every test runs in a home of its own and in a plain locale, on no display: it must not matter whose machine it is,
 /// and nobody's settings may be touched.
 class TestEnvironment : public ::testing::Environment {
  public:
+  TestEnvironment() { setFailureHandler(failTest); }
+
   void SetUp() override {
     home_ = std::make_unique<TemporaryDirectory>();
     setenv("HOME", home_->path().c_str(), 1);

@@ -1,6 +1,6 @@
 #include "tests/support/WindowUser.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/Failure.h"
 
 using FX::FXint;
 using FX::FXWindow;
@@ -9,7 +9,7 @@ WindowUser::WindowUser(TestApplication& application)
     : events(application.display().name()), application_(application) {}
 
 WindowUser::~WindowUser() {
-  EXPECT_TRUE(scripts_.empty()) << "a modal window has not come";
+  if (!scripts_.empty()) reportFailure("a modal window has not come");
   application_->removeTimeout(this, 0);
 }
 
@@ -115,7 +115,7 @@ long WindowUser::handle(FX::FXObject*, FX::FXSelector, void*) {
   script(*window);
   // A window that stays would keep the test for ever.
   if (application_->isModal(window) && window->shown()) {
-    ADD_FAILURE() << "a modal window has not been closed";
+    reportFailure("a modal window has not been closed");
     window->hide();
     application_->stopModal(window, 0);
   }

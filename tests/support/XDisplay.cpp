@@ -8,7 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <gtest/gtest.h>
+#include "tests/support/Failure.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ std::string readNumber(int pipe) {
 XDisplay::XDisplay(const std::string& screen) {
   int ends[2];
   if (pipe(ends) != 0) {
-    ADD_FAILURE() << "no pipe for Xvfb";
+    reportFailure("no pipe for Xvfb");
     return;
   }
   fcntl(ends[0], F_SETFD, FD_CLOEXEC);
@@ -53,7 +53,7 @@ XDisplay::XDisplay(const std::string& screen) {
   const std::string number = readNumber(ends[0]);
   close(ends[0]);
   if (number.empty()) {
-    ADD_FAILURE() << "Xvfb did not start";
+    reportFailure("Xvfb did not start");
     return;
   }
   name_ = ":" + number;

@@ -9,12 +9,7 @@
 #include <utility>
 #include <vector>
 
-// Xlib's names for constants get in the way of GoogleTest's.
-#undef None
-#undef Bool
-#undef Status
-#undef Success
-#include <gtest/gtest.h>
+#include "tests/support/Failure.h"
 
 namespace {
 
@@ -49,7 +44,7 @@ unsigned keysymOf(unsigned character) {
 struct XEvents::Keyboard {
   explicit Keyboard(const std::string& name) : display(XOpenDisplay(name.c_str())) {
     if (!display) {
-      ADD_FAILURE() << "cannot connect to " << name;
+      reportFailure("cannot connect to " + name);
       std::abort();
     }
     XDisplayKeycodes(display, &firstKey, &lastKey);
@@ -86,7 +81,7 @@ struct XEvents::Keyboard {
       read();
       return {static_cast<KeyCode>(key), false};
     }
-    ADD_FAILURE() << "the keyboard is full";
+    reportFailure("the keyboard is full");
     return {};
   }
 
@@ -106,7 +101,7 @@ void XEvents::focus(unsigned long window) {
   XWindowAttributes attributes;
   while (!XGetWindowAttributes(keyboard_->display, window, &attributes) || attributes.map_state != IsViewable) {
     if (std::chrono::steady_clock::now() > end) {
-      ADD_FAILURE() << "the window is not shown";
+      reportFailure("the window is not shown");
       return;
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(1));

@@ -6,12 +6,7 @@
 #include <functional>
 #include <thread>
 
-// Xlib's names for constants get in the way of GoogleTest's.
-#undef None
-#undef Bool
-#undef Status
-#undef Success
-#include <gtest/gtest.h>
+#include "tests/support/Failure.h"
 
 namespace {
 
@@ -38,7 +33,7 @@ bool poll(const std::function<bool()>& condition, int longestMs = kLongestWaitMs
 struct XWindows::Connection {
   explicit Connection(const std::string& name) : display(XOpenDisplay(name.c_str())) {
     if (display == nullptr) {
-      ADD_FAILURE() << "cannot connect to " << name;
+      reportFailure("cannot connect to " + name);
       std::abort();
     }
     XSetErrorHandler(ignoreError);
@@ -109,6 +104,12 @@ size_t XWindows::count() {
   return shown().size();
 }
 
+std::vector<unsigned long> XWindows::stack() {
+  std::vector<unsigned long> windows;
+  for (const Shown& window : shown()) windows.push_back(window.window);
+  return windows;
+}
+
 unsigned long XWindows::waitFor(const std::string& title) {
   unsigned long found = 0;
   if (!poll([&] { return (found = find(title)) != 0; })) fail("no window \"" + title + "\"");
@@ -132,5 +133,7 @@ bool XWindows::waitForCount(size_t count) {
 }
 
 void XWindows::fail(const std::string& what) {
-  ADD_FAILURE() << what << ", but " << ::testing::PrintToString(titles());
+  std::string present;
+  for (const std::string& title : titles()) present += (present.empty() ? "\"" : ", \"") + title + "\"";
+  reportFailure(what + ", but {" + present + "}");
 }

@@ -28,6 +28,8 @@ class XWindows {
   Place placeOf(unsigned long window);
   /// How many windows are shown, menus included.
   size_t count();
+  /// All windows that are shown, menus included, lowest first.
+  std::vector<unsigned long> stack();
 
   /// Waits until there is such a window, and returns it; 0, and a test failure, if none comes.
   unsigned long waitFor(const std::string& title);
