@@ -18,10 +18,20 @@ FXString variable(const char* name) {
   return value == nullptr ? FXString() : FXString(value);
 }
 
-FXString besideProgram(const char* folder) {
+// A folder by its way from the one that the program is in.
+path besideProgram(const char* folder) {
   std::error_code error;
   const path program = std::filesystem::read_symlink("/proc/self/exe", error);
-  return (program.parent_path().parent_path() / folder).c_str();
+  return (program.parent_path() / folder).lexically_normal();
+}
+
+// Where the program was installed, the folder of libraries may have another name than where it was built.
+path pluginsBesideProgram() {
+  const path installed = besideProgram(BRONTEL_PLUGINS_BESIDE_PROGRAM);
+  const path built = besideProgram("../lib/brontel/plugins");
+  std::error_code error;
+  return !std::filesystem::is_directory(installed, error) && std::filesystem::is_directory(built, error) ? built
+                                                                                                         : installed;
 }
 
 bool makeFolder(const path& folder) {
@@ -47,12 +57,12 @@ FXString findDatabase(const FXString& given) {
 FXString findPluginDirectory(const FXString& given) {
   if (!given.empty()) return given;
   const FXString named = variable("BRONTEL_PLUGIN_PATH");
-  return named.empty() ? besideProgram("lib/brontel/plugins") : named;
+  return named.empty() ? FXString(pluginsBesideProgram().c_str()) : named;
 }
 
 FXString findLocaleDirectory() {
   const FXString named = variable("BRONTEL_LOCALE_PATH");
-  return named.empty() ? besideProgram("share/locale") : named;
+  return named.empty() ? FXString(besideProgram(BRONTEL_LOCALES_BESIDE_PROGRAM).c_str()) : named;
 }
 
 bool makeFolderOf(const FXString& file) {

@@ -25,7 +25,7 @@ function(brontel_plain_twin name target type)
     OUTPUT_NAME ${target}
     LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/plain
     RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/plain)
-  foreach(property CXX_VISIBILITY_PRESET VISIBILITY_INLINES_HIDDEN)
+  foreach(property CXX_VISIBILITY_PRESET VISIBILITY_INLINES_HIDDEN VERSION SOVERSION)
     get_target_property(value ${target} ${property})
     if(value)
       set_target_properties(${twin} PROPERTIES ${property} ${value})

@@ -62,7 +62,7 @@ TEST(PluginLibraryFileTest, standsOnTheHostLibraryAndFoxAlone) {
   for (const char* ofTheCompiler : {"libstdc++.so.6", "libgcc_s.so.1", "libm.so.6", "libc.so.6"}) {
     needed.erase(ofTheCompiler);
   }
-  EXPECT_EQ(needed, (Names{"libBrontelCore.so", "libFOX-1.6.so.0"}));
+  EXPECT_EQ(needed, (Names{"libBrontelCore.so." BRONTEL_SOVERSION, "libFOX-1.6.so.0"}));
 }
 
 TEST(PluginLibraryFileTest, sharesOneFoxWithHostAndTests) {
