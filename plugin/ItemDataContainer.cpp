@@ -20,12 +20,17 @@ namespace {
 // How the host orders the contributions of several plug-ins.
 constexpr int kWeight = 103;
 
+// Marks a text for the plug-in's catalogue that the constructor translates.
+constexpr const char* dgettext_noop(const char* text) {
+  return text;
+}
+
 }  // namespace
 
 ItemDataContainer::ItemDataContainer(Morvane* app)
-    : PluginContainer(app, kTextDomain, "Egyéb tételadatok", "2013.01.02",
-                      "Lehetőséget biztosít arra, hogy bizonyos áruk számlázásakor egyéb (saját) adatot is nyomtassunk "
-                      "a számlára.\n") {
+    : PluginContainer(app, kTextDomain, dgettext_noop("Egyéb tételadatok"), "2013.01.02",
+                      dgettext_noop("Lehetőséget biztosít arra, hogy bizonyos áruk számlázásakor egyéb (saját) adatot "
+                                    "is nyomtassunk a számlára.\n")) {
   flag_ = false;
   name_ = dgettext(kTextDomain, name_.text());
   description_ = dgettext(kTextDomain, description_.text());

@@ -106,7 +106,7 @@ void MainWindow::makeMenus() {
   makeInvoiceMenu(bar);
   makeViewMenu(bar);
   makePluginMenu(bar);
-  FX::FXMenuPane* help = addMenu(bar, gettext("&Súgó"));
+  FX::FXMenuPane* help = addMenu(bar, gettext("Sú&gó"));
   new FXMenuCommand(help, gettext("&Névjegy...\tF1\tA program és a bővítmények."), nullptr, this, ID_ABOUT);
 }
 
@@ -143,7 +143,7 @@ void MainWindow::makeViewMenu(FX::FXMenuBar* bar) {
     new FXMenuCommand(menu, entries[page], nullptr, this, ID_PAGE + page);
   }
   new FX::FXMenuSeparator(menu);
-  new FXMenuCommand(menu, gettext("Ke&resés\tCtrl+F\tHol szerepel egy rögzített érték."), nullptr, this, ID_FIND);
+  new FXMenuCommand(menu, gettext("Ker&esés\tCtrl+F\tHol szerepel egy rögzített érték."), nullptr, this, ID_FIND);
   new FXMenuCommand(menu, gettext("&Frissítés\tF5\tA listák beolvasása újra."), nullptr, this, ID_REFRESH);
 }
 

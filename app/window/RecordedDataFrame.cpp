@@ -35,7 +35,7 @@ RecordedDataFrame::RecordedDataFrame(FX::FXComposite* parent, Workspace& workspa
                                      FX::FXSelector sel)
     : FXVerticalFrame(parent, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 4, 4, 4, 4), workspace_(&workspace) {
   auto* bar = new FX::FXHorizontalFrame(this, FX::LAYOUT_FILL_X, 0, 0, 0, 0, 0, 0, 0, 0);
-  new FX::FXLabel(bar, gettext("Ré&gzített adat:"), nullptr, FX::LAYOUT_CENTER_Y);
+  new FX::FXLabel(bar, gettext("Rögzített &adat:"), nullptr, FX::LAYOUT_CENTER_Y);
   search_ = new FX::FXTextField(
       bar, 30, this, ID_SEARCH,
       FX::TEXTFIELD_ENTER_ONLY | FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_FILL_X | FX::LAYOUT_CENTER_Y);
