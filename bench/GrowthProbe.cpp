@@ -118,6 +118,9 @@ struct Opened {
     CALLGRIND_TOGGLE_COLLECT;
   }
 
+  Opened(const Opened&) = delete;
+  Opened& operator=(const Opened&) = delete;
+
   static ItemDataTable* tableIn(FX::FXWindow* window) {
     if (auto* table = dynamic_cast<ItemDataTable*>(window)) return table;
     for (FX::FXWindow* child = window->getFirst(); child != nullptr; child = child->getNext()) {

@@ -55,6 +55,7 @@ int main(int argc, char** argv) {
   benchmark::RegisterBenchmark("start:with plug-in", openWithPlugin)->Arg(1)->Unit(benchmark::kMicrosecond);
   benchmark::RegisterBenchmark("start:opening alone", openAlone)->Arg(1)->Unit(benchmark::kMicrosecond);
   Brontel::Morvane application;
+  // cppcheck-suppress danglingLifetime ; benchmarks run from here only
   app = &application;
   file = (std::filesystem::temp_directory_path() / ("start." + std::to_string(FX::fxgetpid()) + ".db")).c_str();
   prepareFile();

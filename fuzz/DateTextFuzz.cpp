@@ -17,6 +17,9 @@ class Field {
     input_ = new FXExt::FXDateInput(window_, nullptr);
   }
 
+  Field(const Field&) = delete;
+  Field& operator=(const Field&) = delete;
+
   FXExt::FXDateInput& input() { return *input_; }
 
  private:

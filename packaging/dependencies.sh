@@ -12,7 +12,7 @@ esac
 bench_packages=(libbenchmark-dev libboost-dev python3 xauth xvfb)
 fuzz_packages=(clang libclang-rt-dev)
 coverage_packages=(gcovr)
-lint_packages=(clang clang-format clang-tidy python3)
+lint_packages=(clang clang-format clang-tidy cppcheck python3)
 
 # need PACKAGE...: makes sure that they are installed; stops with their names where that cannot be done here.
 need() {

@@ -49,7 +49,7 @@ FXString lineOf(const Goods& goods) {
 
 // The toolkit keeps one pointer for each line.
 void* toData(int id) {
-  // NOLINTNEXTLINE(performance-no-int-to-ptr)
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the number is kept where a pointer could be
   return reinterpret_cast<void*>(static_cast<std::intptr_t>(id));
 }
 

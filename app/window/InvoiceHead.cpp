@@ -20,7 +20,7 @@ constexpr FXint kPairsInRow = 2;
 
 // The toolkit keeps one pointer for each line.
 void* asData(int code) {
-  // NOLINTNEXTLINE(performance-no-int-to-ptr)
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the number is kept where a pointer could be
   return reinterpret_cast<void*>(static_cast<FX::FXival>(code));
 }
 

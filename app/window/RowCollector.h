@@ -13,18 +13,18 @@ class RowCollector : public DataBaseValueLoader {
  public:
   int processValue(int column, const char* name, const char* value) override {
     if (column == 0) {
-      rows_.emplace_back();
-      rows_.back().id = Database::toInt(value);
+      collected_.emplace_back();
+      collected_.back().id = Database::toInt(value);
     } else {
-      rows_.back().cells.emplace_back(value);
+      collected_.back().cells.emplace_back(value);
     }
     return DataBaseValueLoader::processValue(column, name, value);
   }
 
-  std::vector<RowList::Row>& getRows() { return rows_; }
+  std::vector<RowList::Row>& getRows() { return collected_; }
 
  private:
-  std::vector<RowList::Row> rows_;
+  std::vector<RowList::Row> collected_;
 };
 
 }  // namespace Brontel::App

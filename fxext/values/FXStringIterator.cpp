@@ -31,7 +31,7 @@ FXStringIterator& FXStringIterator::operator++() {
   return *this;
 }
 
-// NOLINTNEXTLINE(cert-dcl21-cpp)
+// NOLINTNEXTLINE(cert-dcl21-cpp): there is no old state to give back, since both are the same iterator
 FXStringIterator& FXStringIterator::operator++(int) {
   next();
   return *this;

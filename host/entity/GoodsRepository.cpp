@@ -79,7 +79,7 @@ GoodsRepository::Result GoodsRepository::save(Goods& goods) {
   // A row that an older version of the program has written may have no version yet.
   UpdateStatement update(&database_, table, key + "=%" + key + " and ifnull(version,0)=%loaded_version");
   const bool isNew = goods.id == 0;
-  Statement& statement = isNew ? static_cast<Statement&>(insert) : update;
+  Statement& statement = isNew ? static_cast<Statement&>(insert) : static_cast<Statement&>(update);
   const int id = isNew ? database_.nextId(table) : goods.id;
   if (id == 0) return Result::Failed;
   statement.setInt(key, id);

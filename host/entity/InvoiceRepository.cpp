@@ -122,7 +122,7 @@ InvoiceRepository::Result InvoiceRepository::writeHead(Invoice& invoice) {
   InsertStatement insert(&database_, "t_invoice");
   UpdateStatement update(&database_, "t_invoice", kThisVersion);
   const bool isNew = invoice.getId() == 0;
-  Statement& statement = isNew ? static_cast<Statement&>(insert) : update;
+  Statement& statement = isNew ? static_cast<Statement&>(insert) : static_cast<Statement&>(update);
   if (!isNew) {
     statement.setInt("t_invoice_id", invoice.getId());
     statement.setInt("loaded_version", invoice.getVersion());
@@ -159,7 +159,7 @@ void InvoiceRepository::writeItem(InvoiceItem& item, int position) {
   InsertStatement insert(&database_, "t_invoiceitem");
   UpdateStatement update(&database_, "t_invoiceitem", "t_invoiceitem_id=%t_invoiceitem_id");
   const bool isNew = item.getId() == 0;
-  Statement& statement = isNew ? static_cast<Statement&>(insert) : update;
+  Statement& statement = isNew ? static_cast<Statement&>(insert) : static_cast<Statement&>(update);
   if (!isNew) {
     statement.setInt("t_invoiceitem_id", item.getId());
   } else if (item.getReferencedItemId() != 0) {

@@ -1,8 +1,10 @@
 #include "tests/rules/Rules.h"
 
 #include <algorithm>
+#include <cctype>
 #include <functional>
 #include <map>
+#include <regex>
 #include <set>
 
 namespace Rules {
@@ -140,6 +142,37 @@ bool isThreadOrLock(const Name& name) {
          last.starts_with("condition_variable") || last.starts_with("atomic");
 }
 
+/// The lines of a text, without their ends.
+Texts linesOf(const std::string& text) {
+  Texts lines(1);
+  for (const char c : text) {
+    if (c == '\n') {
+      lines.emplace_back();
+    } else {
+      lines.back() += c;
+    }
+  }
+  return lines;
+}
+
+/// Whether a comment says something beside what it silences.
+bool saysWhy(const std::string& comment) {
+  return comment.find("NOLINT") == std::string::npos && comment.find("cppcheck-suppress") == std::string::npos &&
+         std::any_of(comment.begin(), comment.end(), [](unsigned char c) { return std::isalpha(c) != 0; });
+}
+
+std::string reasonAgainstSilencing(const std::string& comment, const std::string& before) {
+  static const std::regex tidy(R"(NOLINT(NEXTLINE|BEGIN)?(\(([\w,.* -]*)\))?:?(.*))");
+  static const std::regex cppcheck(R"(cppcheck-suppress(-begin|-file)? +()([\w]*)(.*))");
+  std::smatch found;
+  if (comment.find("NOLINTEND") != std::string::npos || comment.find("cppcheck-suppress-end") != std::string::npos) {
+    return "";
+  }
+  if (!std::regex_search(comment, found, tidy) && !std::regex_search(comment, found, cppcheck)) return "";
+  if (trimmed(found[3]).empty() || found[3].str().find('*') != std::string::npos) return "silences any check";
+  return saysWhy(found[4]) || saysWhy(before) ? "" : "silences without a reason";
+}
+
 std::string reasonAgainstExecution(const Texts& arguments) {
   static const std::set<std::string> atPointer = {"PLACEMENT_CURSOR", "FX::PLACEMENT_CURSOR", "2"};
   if (arguments.size() == 2) return arguments[1] == "1" ? "" : "the flag is " + arguments[1];
@@ -217,6 +250,18 @@ Violations silence(const SourceTree& tree) {
   return find(tree, {"itemdata", "model", "plugin"}, "speaks", [](const Name& name) {
     return speaking.count(name.last) > 0 || name.text.find("FXMessageBox::") != std::string::npos;
   });
+}
+
+Violations silencedChecks(const SourceTree& tree) {
+  Violations violations;
+  for (const SourceFile& file : tree.files()) {
+    const Texts lines = linesOf(file.comments);
+    for (size_t i = 0; i < lines.size(); ++i) {
+      const std::string reason = reasonAgainstSilencing(lines[i], i == 0 ? "" : lines[i - 1]);
+      if (!reason.empty()) violations.push_back(file.path + ":" + std::to_string(i + 1) + ": " + reason);
+    }
+  }
+  return violations;
 }
 
 }  // namespace Rules

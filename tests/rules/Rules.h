@@ -35,4 +35,7 @@ Violations timers(const SourceTree& tree);
 /// Item data are loaded and saved without message boxes and output.
 Violations silence(const SourceTree& tree);
 
+/// A lint check that is silenced somewhere is named there, and the reason stands behind it or in the line before.
+Violations silencedChecks(const SourceTree& tree);
+
 }  // namespace Rules

@@ -200,3 +200,31 @@ TEST(SilenceRuleTest, seesMessageBoxesAndOutput) {
     EXPECT_EQ(Rules::silence(treeOf("ui/a.cpp", text)), Violations());
   }
 }
+
+TEST(SilencedCheckRuleTest, holdsForAllOurSources) {
+  const SourceTree everything(SOURCE_FOLDER,
+                              {"app", "bench", "fuzz", "fxext", "host", "itemdata", "model", "plugin", "tests", "ui"});
+  EXPECT_GT(everything.files().size(), ourTree().files().size());
+  EXPECT_EQ(Rules::silencedChecks(everything), Violations());
+}
+
+TEST(SilencedCheckRuleTest, wantsANameAndAReason) {
+  for (const char* fine :
+       {"f();  // NOLINT(cert-env33-c): nothing in it comes from outside",
+        "// The interface has it so.\n// NOLINTNEXTLINE(a)",
+        "// NOLINTBEGIN(a,b): another library's names\n// NOLINTEND(a,b)", "const char* text = \"NOLINT\";",
+        "// cppcheck-suppress danglingLifetime ; main outlives it", "// lint is said nothing of"}) {
+    EXPECT_EQ(Rules::silencedChecks(treeOf("ui/a.cpp", fine)), Violations()) << fine;
+  }
+  for (const char* unexplained : {"f();  // NOLINT(cert-env33-c)", "f();  // NOLINT(cert-env33-c): ",
+                                  "int i;\n// NOLINTNEXTLINE(a)", "// NOLINTNEXTLINE(a): why\n// NOLINTNEXTLINE(b)",
+                                  "// NOLINTBEGIN(a)", "// cppcheck-suppress danglingLifetime"}) {
+    const Violations violations = Rules::silencedChecks(treeOf("ui/a.cpp", unexplained));
+    ASSERT_EQ(violations.size(), 1u) << unexplained;
+    EXPECT_NE(violations[0].find("without a reason"), std::string::npos) << violations[0];
+  }
+  for (const char* unnamed : {"// NOLINT", "// NOLINT: why", "// NOLINTNEXTLINE(*): why", "// NOLINT(cert-*): why"}) {
+    EXPECT_EQ(Rules::silencedChecks(treeOf("ui/a.cpp", unnamed)), Violations{"ui/a.cpp:1: silences any check"})
+        << unnamed;
+  }
+}

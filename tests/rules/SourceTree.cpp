@@ -107,8 +107,12 @@ std::string SourceFile::place(size_t offset) const {
 }
 
 SourceFile parseSource(const std::string& path, const std::string& text) {
-  SourceFile file{path, Blanker(text, true).run(), {}};
-  std::istringstream lines(Blanker(text, false).run());
+  const std::string uncommented = Blanker(text, false).run();
+  SourceFile file{path, Blanker(text, true).run(), text, {}};
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == uncommented[i] && text[i] != '\n') file.comments[i] = ' ';
+  }
+  std::istringstream lines(uncommented);
   std::string line;
   for (int number = 1; std::getline(lines, line); ++number) {
     const size_t hash = line.find_first_not_of(" \t");
@@ -122,8 +126,11 @@ SourceFile parseSource(const std::string& path, const std::string& text) {
   return file;
 }
 
-SourceTree::SourceTree(const std::string& root) {
-  for (const char* folder : {"app", "fxext", "host", "itemdata", "model", "plugin", "ui"}) {
+SourceTree::SourceTree(const std::string& root)
+    : SourceTree(root, {"app", "fxext", "host", "itemdata", "model", "plugin", "ui"}) {}
+
+SourceTree::SourceTree(const std::string& root, const std::vector<std::string>& folders) {
+  for (const std::string& folder : folders) {
     const fs::path top = fs::path(root) / folder;
     if (!fs::is_directory(top)) continue;
     for (const auto& entry : fs::recursive_directory_iterator(top)) {

@@ -19,8 +19,9 @@ struct SourceFile {
     std::string last;  ///< without it, "mutex"
   };
 
-  std::string path;  ///< relative to the root
-  std::string code;  ///< comments and the contents of texts blanked, lines kept
+  std::string path;      ///< relative to the root
+  std::string code;      ///< comments and the contents of texts blanked, lines kept
+  std::string comments;  ///< everything but comments blanked, lines kept
   std::vector<Include> includes;
 
   /// Whether the file lies in that folder, "host" or "fxext/values".
@@ -32,11 +33,12 @@ struct SourceFile {
   std::string place(size_t offset) const;
 };
 
-/// The sources of what is shipped: app, fxext, host, itemdata, model, plugin and ui below a root folder. Folders that
-/// are not there are left out.
+/// The sources in some folders below a root folder. Folders that are not there are left out.
 class SourceTree {
  public:
+  /// Those of what is shipped: app, fxext, host, itemdata, model, plugin and ui.
   explicit SourceTree(const std::string& root);
+  SourceTree(const std::string& root, const std::vector<std::string>& folders);
 
   const std::vector<SourceFile>& files() const { return files_; }
 
