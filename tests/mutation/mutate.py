@@ -1,7 +1,8 @@
 """Makes seeded mutants of a copy of the sources, one at a time, and counts those that the tests notice.
 
 Called by tests/mutation/run. A mutant flips one condition or changes one constant. One that does not compile is no
-mutant and another is drawn for it. A test that fails, crashes or takes far too long has noticed the mutant."""
+mutant and another is drawn for it. A test that fails, crashes or takes far longer than it does without a change has
+noticed the mutant."""
 
 import pathlib
 import random
@@ -13,7 +14,9 @@ import time
 FOLDERS = ("itemdata", "fxext/values")
 # What is built, and which of it is run for a folder.
 PROGRAMS = {"itemdata": ("itemdata_test", "plugin_test"), "fxext/values": ("fxext_values_test", "itemdata_test")}
-LONGEST = 120
+# A program has noticed a mutant when it takes this many times as long as it does without one, and at least these seconds.
+TOO_LONG_FACTOR = 10
+TOO_LONG_SECONDS = 30
 
 FLIPS = (
     (r"==", "!="), (r"!=", "=="), (r"(?<= )<(?= )", "<="), (r"(?<= )<=(?= )", "<"), (r"(?<= )>(?= )", ">="),
@@ -71,15 +74,35 @@ def build(objects, programs):
     return done.returncode == 0, done.stdout
 
 
-def noticed(objects, programs):
+def run(objects, program, limit=None):
+    """The program's exit code; None when it takes longer than limit seconds."""
+    try:
+        return subprocess.run([objects / "tests" / program, "--gtest_fail_fast", "--gtest_brief=1"],
+                              capture_output=True, timeout=limit).returncode
+    except subprocess.TimeoutExpired:
+        return None
+
+
+def limits_of(objects, programs):
+    """How long each program may take, by what it takes now; none of them may fail."""
+    limits = {}
+    for program in programs:
+        start = time.monotonic()
+        if run(objects, program) != 0:
+            sys.exit(f"{program} fails without any change")
+        seconds = time.monotonic() - start
+        limits[program] = max(TOO_LONG_SECONDS, TOO_LONG_FACTOR * seconds)
+        print(f"{program} takes {seconds:.1f} s and may take {limits[program]:.0f} s", flush=True)
+    return limits
+
+
+def noticed(objects, programs, limits):
     """The program that fails, or None."""
     for program in programs:
-        try:
-            run = subprocess.run([objects / "tests" / program, "--gtest_fail_fast", "--gtest_brief=1"],
-                                 capture_output=True, timeout=LONGEST)
-        except subprocess.TimeoutExpired:
+        code = run(objects, program, limits[program])
+        if code is None:
             return program + " (time)"
-        if run.returncode != 0:
+        if code != 0:
             return program
     return None
 
@@ -101,12 +124,11 @@ def main():
     fine, output = build(objects, everything)
     if not fine:
         sys.exit("the copy does not build:\n" + output[-3000:])
-    if noticed(objects, everything):
-        sys.exit("the tests fail without any change")
+    limits = limits_of(objects, everything)
     candidates = list(mutants_of(tree))
     random.Random(seed).shuffle(candidates)
     print(f"{len(candidates)} possible changes, seed {seed}", flush=True)
-    tried = killed = 0
+    tried = killed = slow = 0
     survivors = []
     for folder, path, number, line, new in candidates:
         if tried == count:
@@ -117,12 +139,13 @@ def main():
         path.write_text("\n".join(lines))
         start = time.monotonic()
         fine, _ = build(objects, PROGRAMS[folder])
-        by = noticed(objects, PROGRAMS[folder]) if fine else None
+        by = noticed(objects, PROGRAMS[folder], limits) if fine else None
         path.write_text(text)
         if not fine:
             continue
         tried += 1
         killed += by is not None
+        slow += by is not None and by.endswith("(time)")
         name = path.relative_to(tree)
         print(f"{tried} {name}:{number + 1} {by or 'SURVIVED'} {time.monotonic() - start:.0f} s", flush=True)
         if by is None:
@@ -133,8 +156,8 @@ def main():
         reason = equivalent.get((name, line, new))
         unexplained += reason is None
         print(f"{name}:{number}\n  - {line}\n  + {new}\n  {reason or 'no reason known: the tests lack something'}")
-    print(f"{killed} of {tried} noticed ({100 * killed / max(1, tried):.1f} %), {len(survivors)} survived, "
-          f"{unexplained} of them unexplained")
+    print(f"{killed} of {tried} noticed ({100 * killed / max(1, tried):.1f} %), {slow} of them by the time it took, "
+          f"{len(survivors)} survived, {unexplained} of them unexplained")
     sys.exit(0 if tried == count and killed >= 0.9 * tried and unexplained == 0 else 1)
 
 
