@@ -44,3 +44,7 @@ string(REGEX REPLACE "/$" "" BRONTEL_PREFIX_FROM_PKGCONFIG ${BRONTEL_PREFIX_FROM
 configure_file(${CMAKE_CURRENT_LIST_DIR}/brontel-core.pc.in ${PROJECT_BINARY_DIR}/brontel-core.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/brontel-core.pc DESTINATION ${BRONTEL_INSTALL_PKGCONFIGDIR}
   COMPONENT brontel-core-dev)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/writing-plugins.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brontel-core-dev/docs
+  COMPONENT brontel-core-dev)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brontel-core-dev
+  COMPONENT brontel-core-dev)

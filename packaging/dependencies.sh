@@ -1,14 +1,18 @@
 # What the project needs of the system, by Debian's and Ubuntu's package names. Sourced by run, test and .ci/run.
 # shellcheck shell=bash disable=SC2034
 
-build_packages=(g++ cmake ninja-build pkg-config gettext libfox-1.6-dev libsqlite3-dev libxml2-dev)
-test_packages=(binutils fonts-dejavu-core libbenchmark-dev libboost-dev libgtest-dev libx11-dev libxtst-dev locales
-  python3 sqlite3 valgrind xauth xvfb)
+build_packages=(g++ cmake ninja-build pkg-config gettext libfox-1.6-dev libpango1.0-dev libsqlite3-dev
+  libxml2-dev)
+test_packages=(appstream binutils desktop-file-utils dpkg-dev file fonts-dejavu-core libbenchmark-dev libboost-dev
+  libgtest-dev librsvg2-bin libx11-dev libxml2-utils libxtst-dev lintian locales make man-db mandoc openbox
+  poppler-utils python3 sqlite3 valgrind x11-utils xauth xvfb)
 # The cases of the decimal conformance test come with Python's own tests, in a package named after its version.
 case $(. /etc/os-release 2>/dev/null && echo "$VERSION_CODENAME") in
   noble) test_packages+=(libpython3.12-testsuite) ;;
   *) test_packages+=(libpython3.11-testsuite) ;;
 esac
+tour_packages=(fonts-dejavu-core libx11-dev libxtst-dev xvfb)
+package_packages=(dpkg-dev file)
 bench_packages=(libbenchmark-dev libboost-dev python3 xauth xvfb)
 fuzz_packages=(clang libclang-rt-dev)
 coverage_packages=(gcovr)
@@ -42,14 +46,14 @@ need() {
   rm -f "$log"
 }
 
-# build PRESET [CMAKE ARGUMENTS]: configures once and builds, saying nothing unless it fails.
+# build PRESET [CMAKE ARGUMENTS]: configures once, or anew with arguments, and builds, saying nothing unless it fails.
 build() {
   local preset=$1 log
   shift
   log=$root/build/$preset.log
   mkdir -p "$root/build"
   if ! {
-    { [ -f "$root/build/$preset/build.ninja" ] || (cd "$root" && cmake --preset "$preset" "$@"); } &&
+    { [ $# -eq 0 ] && [ -f "$root/build/$preset/build.ninja" ] || (cd "$root" && cmake --preset "$preset" "$@"); } &&
       (cd "$root" && cmake --build --preset "$preset")
   } >"$log" 2>&1; then
     grep -E -A5 'error:|CMake Error|undefined reference' "$log" | head -n 40 >&2 || tail -n 40 "$log" >&2
