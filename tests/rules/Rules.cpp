@@ -144,20 +144,22 @@ bool isThreadOrLock(const Name& name) {
 
 /// The lines of a text, without their ends.
 Texts linesOf(const std::string& text) {
-  Texts lines(1);
-  for (const char c : text) {
-    if (c == '\n') {
-      lines.emplace_back();
-    } else {
-      lines.back() += c;
-    }
+  Texts lines;
+  for (size_t begin = 0; begin <= text.size();) {
+    const size_t end = std::min(text.find('\n', begin), text.size());
+    lines.push_back(text.substr(begin, end - begin));
+    begin = end + 1;
   }
   return lines;
 }
 
+bool silences(const std::string& comment) {
+  return comment.find("NOLINT") != std::string::npos || comment.find("cppcheck-suppress") != std::string::npos;
+}
+
 /// Whether a comment says something beside what it silences.
 bool saysWhy(const std::string& comment) {
-  return comment.find("NOLINT") == std::string::npos && comment.find("cppcheck-suppress") == std::string::npos &&
+  return !silences(comment) &&
          std::any_of(comment.begin(), comment.end(), [](unsigned char c) { return std::isalpha(c) != 0; });
 }
 
@@ -165,7 +167,8 @@ std::string reasonAgainstSilencing(const std::string& comment, const std::string
   static const std::regex tidy(R"(NOLINT(NEXTLINE|BEGIN)?(\(([\w,.* -]*)\))?:?(.*))");
   static const std::regex cppcheck(R"(cppcheck-suppress(-begin|-file)? +()([\w]*)(.*))");
   std::smatch found;
-  if (comment.find("NOLINTEND") != std::string::npos || comment.find("cppcheck-suppress-end") != std::string::npos) {
+  if (!silences(comment) || comment.find("NOLINTEND") != std::string::npos ||
+      comment.find("cppcheck-suppress-end") != std::string::npos) {
     return "";
   }
   if (!std::regex_search(comment, found, tidy) && !std::regex_search(comment, found, cppcheck)) return "";
