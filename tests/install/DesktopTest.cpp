@@ -71,7 +71,8 @@ TEST(DesktopTest, theUsualToolsAcceptTheFiles) {
   build({"appstreamcli", "validate", "--no-net", tree.path("share/metainfo/invalid.brontel.host.metainfo.xml")});
 }
 
-TEST(DesktopTest, theDescriptionKnowsTheVersion) {
+TEST(DesktopTest, theVersionIsTheSameEverywhere) {
+  EXPECT_TRUE(readFile(kSource + "../debian/changelog").starts_with("brontel (" BRONTEL_TEST_VERSION "-1) "));
   EXPECT_NE(readFile(kSource + "brontel-host.metainfo.xml").find("<release version=\"" BRONTEL_TEST_VERSION "\""),
             std::string::npos);
 }
