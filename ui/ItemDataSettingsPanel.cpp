@@ -7,6 +7,7 @@
 #include "host/database/DataBaseValueLoader.h"
 #include "host/database/Statement.h"
 #include "host/ui/DBTable.h"
+#include "host/ui/Legibility.h"
 #include "host/ui/Morvane.h"
 #include "host/ui/WaitCursor.h"
 #include "itemdata/Codes.h"
@@ -94,7 +95,7 @@ void ItemDataSettingsPanel::setColumn(int column, const FXString& text, int leas
   table_->setColumnText(column, text);
   const FX::FXFont* font = table_->getFont();
   const FXint textWidth = font->id() == 0 ? 0 : font->getTextWidth(text) + kMargins;
-  table_->setColumnWidth(column, std::max(leastWidth, textWidth));
+  table_->setColumnWidth(column, std::max(scaledToFont(getApp(), leastWidth), textWidth));
 }
 
 bool ItemDataSettingsPanel::save(ItemDataSettingsPersister* persister) {

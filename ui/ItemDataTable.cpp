@@ -5,6 +5,8 @@
 #include <fxkeys.h>
 #include <libintl.h>
 
+#include "host/ui/KeyboardMenu.h"
+#include "host/ui/Legibility.h"
 #include "host/ui/Morvane.h"
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataEntry.h"
@@ -40,9 +42,10 @@ const Morvane* hostOf(FX::FXApp* app) {
 ItemDataTable::ItemDataTable(FX::FXComposite* parent, FXObject* target, FXSelector sel, FX::FXuint opts)
     : FXTable(parent, target, sel, opts | FX::TABLE_COL_SIZABLE, 0, 0, 0, 0, kMargin, kMargin, kMargin, kMargin) {
   setRowHeaderWidth(0);
+  fitRows(*this);
   // As high as its text, whose lower parts would be cut off otherwise.
   setColumnHeaderMode(FX::LAYOUT_MIN_HEIGHT);
-  popup_ = new FX::FXMenuPane(parent->getShell());
+  popup_ = new KeyboardMenu(parent->getShell());
   const Morvane* host = hostOf(getApp());
   new FX::FXMenuCommand(popup_, dgettext(kTextDomain, "&Új sor\tIns"),
                         host == nullptr ? nullptr : host->getNewRowIcon(), this, ID_ADD_ROW);
@@ -117,10 +120,7 @@ long ItemDataTable::onContextMenu(FXObject*, FXSelector, void* ptr) {
     setCurrentItem(row, col, true);
   }
   popup_->popup(nullptr, event->root_x, event->root_y);
-  // Keys would go to the window below, which takes none meanwhile.
-  popup_->grabKeyboard();
   getApp()->runModalWhileShown(popup_);
-  popup_->ungrabKeyboard();
   return 1;
 }
 

@@ -4,6 +4,7 @@
 #include <libintl.h>
 
 #include "host/message/FillIn.h"
+#include "host/ui/Legibility.h"
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataEntry.h"
 #include "ui/ClipboardText.h"
@@ -152,7 +153,7 @@ void ItemDataTable::paste(const PastedText& pasted, FXint row, FXint col) {
         dgettext(kTextDomain, "A vágólapon %d oszlop van, innen kezdve a táblázatban csak %d. Semmi sem változott."),
         {FX::FXStringVal(pasted.getNumColumns()), FX::FXStringVal(columnsLeft)});
     FX::FXMessageBox::information(this, FX::MBOX_OK, dgettext(kTextDomain, "A beillesztés nem lehetséges"), "%s",
-                                  explanation.text());
+                                  wrappedForBox(getApp(), explanation).text());
     return;
   }
   const FXint missing = row + pasted.getNumRows() - getNumRows();

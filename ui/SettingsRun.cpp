@@ -6,6 +6,7 @@
 #include "host/database/Transaction.h"
 #include "host/message/FillIn.h"
 #include "host/ui/DBTable.h"
+#include "host/ui/Legibility.h"
 #include "host/ui/Morvane.h"
 #include "itemdata/Codes.h"
 #include "ui/ItemDataSettingsPanel.h"
@@ -59,8 +60,9 @@ bool SettingsRun::confirmOverwriting(ItemDataSettingsPanel& panel) {
   const FXString question = fillIn(
       dgettext(kTextDomain, "Ezeket közben más is módosította:\n\n%s\n\nFelülírja az ő módosításait az itteniekkel?"),
       {panel.getOvertakenNames()});
-  const FX::FXuint answer = FX::FXMessageBox::question(
-      &panel, FX::MBOX_YES_NO, dgettext(kTextDomain, "Közben megváltozott"), "%s", question.text());
+  const FX::FXuint answer =
+      FX::FXMessageBox::question(&panel, FX::MBOX_YES_NO, dgettext(kTextDomain, "Közben megváltozott"), "%s",
+                                 wrappedForBox(panel.getApp(), question).text());
   return answer == FX::MBOX_CLICKED_YES;
 }
 

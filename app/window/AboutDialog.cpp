@@ -2,10 +2,10 @@
 
 #include <libintl.h>
 
-#include "app/window/Dialogs.h"
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
 #include "host/plugin/PluginContainer.h"
+#include "host/ui/Legibility.h"
 
 namespace Brontel::App {
 
@@ -18,15 +18,17 @@ namespace {
 constexpr FX::FXint kWidth = 700;
 constexpr FX::FXint kHeight = 360;
 
+constexpr FX::FXint kTextWidth = 620;
+
 // In a label, a single "&" marks a key, and a tab begins the tip.
-FXString labelText(const FXString& text) {
-  FXString label = Dialogs::wrapped(text).trim();
+FXString labelText(const FX::FXApp* app, const FXString& text) {
+  FXString label = wrapped(text, *app->getNormalFont(), scaledToFont(app, kTextWidth)).trim();
   return label.substitute("&", "&&").substitute('\t', ' ');
 }
 
 void addLine(FX::FXComposite* parent, const FXString& text, FX::FXIcon* icon = nullptr) {
-  new FX::FXLabel(parent, labelText(text), icon, FX::JUSTIFY_LEFT | FX::ICON_BEFORE_TEXT | FX::LAYOUT_FILL_X, 0, 0, 0,
-                  0, 2, 2, 1, 1);
+  new FX::FXLabel(parent, labelText(parent->getApp(), text), icon,
+                  FX::JUSTIFY_LEFT | FX::ICON_BEFORE_TEXT | FX::LAYOUT_FILL_X, 0, 0, 0, 0, 2, 2, 1, 1);
 }
 
 }  // namespace
@@ -46,6 +48,7 @@ AboutDialog::AboutDialog(FX::FXWindow* owner, const Workspace& workspace)
       this, FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y, 0, 0, 0, 0, 0, 0, 0, 0);
   auto* scroll = new FX::FXScrollWindow(frame, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y);
   addPlugins(new FX::FXVerticalFrame(scroll, FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y), workspace);
+  resizeToFont(*this, kWidth, kHeight);
 }
 
 void AboutDialog::addPlugins(FX::FXComposite* parent, const Workspace& workspace) {

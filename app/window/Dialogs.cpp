@@ -5,6 +5,7 @@
 #include <libintl.h>
 
 #include "host/message/FillIn.h"
+#include "host/ui/Legibility.h"
 
 namespace Brontel::App::Dialogs {
 
@@ -13,13 +14,12 @@ using FX::FXuint;
 
 namespace {
 
-constexpr FX::FXint kLongestLine = 90;
 constexpr FX::FXint kLongestText = 400;
 
 FXuint show(FX::FXWindow* owner, FXuint (*box)(FX::FXWindow*, FXuint, const FX::FXchar*, const FX::FXchar*, ...),
             FXuint buttons, const FXString& title, const FXString& text) {
   FX::FXWindow* above = owner != nullptr && owner->id() != 0 ? owner : FX::FXApp::instance()->getRootWindow();
-  return box(above, buttons, title.text(), "%s", wrapped(text).text());
+  return box(above, buttons, title.text(), "%s", wrappedForBox(above->getApp(), text).text());
 }
 
 }  // namespace
@@ -49,27 +49,6 @@ FXString askForNewFile(FX::FXWindow* owner, const FXString& title, const FXStrin
   if (file.empty() || !FX::FXStat::exists(file)) return file;
   const FXString question = fillIn(gettext("Ez a fájl már létezik:\n%s\n\nFelülírja?"), {file});
   return confirm(owner, title, question) ? file : FXString();
-}
-
-FXString wrapped(const FXString& text) {
-  FXString result;
-  FX::FXint length = 0;
-  FX::FXint blank = -1;  // in the result, on its last line
-  for (FX::FXint at = 0; at < text.length(); at = text.inc(at)) {
-    const FXString character = text.mid(at, text.inc(at) - at);
-    if (character == " ") blank = result.length();
-    result += character;
-    ++length;
-    if (character == "\n") {
-      length = 0;
-      blank = -1;
-    }
-    if (length <= kLongestLine || blank < 0) continue;
-    result.replace(blank, '\n');
-    length = result.count(blank + 1, result.length());
-    blank = -1;
-  }
-  return result;
 }
 
 FXString shortened(const FXString& text) {

@@ -21,9 +21,6 @@ Answer askToSave(FX::FXWindow* owner, const FX::FXString& question);
 FX::FXString askForNewFile(FX::FXWindow* owner, const FX::FXString& title, const FX::FXString& suggestion,
                            const FX::FXString& patterns);
 
-/// The text with line breaks in long lines, since boxes are as wide as their text.
-FX::FXString wrapped(const FX::FXString& text);
-
 /// The beginning of a text that may be too long for a box.
 FX::FXString shortened(const FX::FXString& text);
 

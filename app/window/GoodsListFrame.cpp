@@ -64,7 +64,8 @@ GoodsListFrame::GoodsListFrame(FX::FXComposite* parent, Workspace& workspace, Go
 void GoodsListFrame::buildSearch() {
   auto* bar = new FX::FXHorizontalFrame(this, FX::LAYOUT_FILL_X, 0, 0, 0, 0, 0, 0, 0, 0);
   new FX::FXLabel(bar, gettext("&Keresés:"), nullptr, FX::LABEL_NORMAL | FX::LAYOUT_CENTER_Y);
-  search_ = new FX::FXTextField(bar, 30, this, ID_SEARCH, FX::TEXTFIELD_NORMAL | FX::LAYOUT_CENTER_Y);
+  search_ =
+      new FX::FXTextField(bar, 30, this, ID_SEARCH, FX::TEXTFIELD_NORMAL | FX::LAYOUT_FILL_X | FX::LAYOUT_CENTER_Y);
   search_->setTipText(gettext("Kód vagy megnevezés része"));
   new FX::FXButton(bar, gettext("Ú&j...\tÚj felvétele (Ins)"), workspace_->getApp().getNewRowIcon(), this, ID_NEW,
                    FX::BUTTON_NORMAL | FX::LAYOUT_CENTER_Y | FX::ICON_BEFORE_TEXT, 0, 0, 0, 0, 8, 8, 2, 2);
@@ -84,7 +85,9 @@ void GoodsListFrame::buildList() {
 }
 
 void GoodsListFrame::create() {
+  const bool isNew = id() == 0;
   FXVerticalFrame::create();
+  if (isNew) scaleHeaders(*list_->getHeader());
   fitHeaders(*list_->getHeader());
   if (!isFilled_) refresh();
 }

@@ -1,5 +1,7 @@
 #include "app/window/Headers.h"
 
+#include "host/ui/Legibility.h"
+
 namespace Brontel::App {
 
 using FX::FXint;
@@ -10,6 +12,12 @@ namespace {
 constexpr FXint kMargin = 12;
 
 }  // namespace
+
+void scaleHeaders(FX::FXHeader& header) {
+  for (FXint i = 0; i < header.getNumItems(); ++i) {
+    header.setItemSize(i, scaledToFont(header.getApp(), header.getItemSize(i)));
+  }
+}
 
 void fitHeaders(FX::FXHeader& header) {
   const FX::FXFont* font = header.getFont();

@@ -14,6 +14,7 @@
 #include "app/window/TextPreview.h"
 #include "app/window/WindowIcons.h"
 #include "app/window/Workspace.h"
+#include "host/ui/Legibility.h"
 #include "host/message/FillIn.h"
 #include "host/ui/WaitCursor.h"
 
@@ -51,7 +52,6 @@ namespace {
 
 constexpr FXint kWidth = 960;
 constexpr FXint kHeight = 640;
-constexpr FXint kMessagesHeight = 150;
 constexpr FXint kCascade = 24;
 constexpr FXint kCascades = 6;
 constexpr const char* kSection = "InvoiceForm";
@@ -85,14 +85,15 @@ InvoiceEditForm::InvoiceEditForm(Workspace& workspace, std::unique_ptr<Invoice> 
   auto* splitter =
       new FX::FXSplitter(this, FX::SPLITTER_VERTICAL | FX::SPLITTER_REVERSED | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y);
   makeItems(splitter);
-  auto* bottom =
-      new FX::FXVerticalFrame(splitter, FX::FRAME_SUNKEN | FX::FRAME_THICK, 0, 0, 0, kMessagesHeight, 0, 0, 0, 0);
+  auto* bottom = new FX::FXVerticalFrame(splitter, FX::FRAME_SUNKEN | FX::FRAME_THICK, 0, 0, 0,
+                                         MessagePane::usualHeight(getApp()), 0, 0, 0, 0);
   messages_ = new MessagePane(bottom, this, ID_MESSAGES);
   items_ = std::make_unique<ItemEditing>(workspace_, *this, editor_, catalogue_, *grid_);
   const FX::FXint step = static_cast<FXint>(workspace_.getWindows().size()) % kCascades * kCascade;
   FX::FXSettings& settings = getApp()->reg();
-  position(kCascade + step, kCascade + step, settings.readIntEntry(kSection, "width", kWidth),
-           settings.readIntEntry(kSection, "height", kHeight));
+  placeOnScreen(*this, kCascade + step, kCascade + step,
+                settings.readIntEntry(kSection, "width", scaledToFont(getApp(), kWidth)),
+                settings.readIntEntry(kSection, "height", scaledToFont(getApp(), kHeight)));
   workspace_.addWindow(this);
   showAll();
 }

@@ -37,8 +37,8 @@ void setEditable(FX::FXTextField* field, bool editable, FX::FXApp* app) {
 
 InvoiceHead::InvoiceHead(FX::FXComposite* parent, FX::FXObject* receiver, FX::FXSelector sel)
     : FXMatrix(parent, kPairsInRow * 2, FX::MATRIX_BY_COLUMNS | FX::LAYOUT_FILL_X, 0, 0, 0, 0, 8, 8, 8, 4, 6, 6) {
-  number_ = addField(gettext("S&zám:"), 16, receiver, sel);
-  partner_ = addField(gettext("&Partner:"), 32, receiver, sel);
+  number_ = addField(gettext("S&zám:"), 14, receiver, sel);
+  partner_ = addField(gettext("&Partner:"), 16, receiver, sel);
   date_ = addField(gettext("&Kelt:"), 11, receiver, sel);
   addLabel(gettext("T&ípus:"));
   type_ = new FX::FXListBox(this, receiver, sel, FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_CENTER_Y);

@@ -10,6 +10,7 @@
 #include "app/window/Headers.h"
 #include "host/entity/Invoice.h"
 #include "host/ui/InvoiceForm.h"
+#include "host/ui/Legibility.h"
 
 namespace Brontel::App {
 
@@ -46,11 +47,12 @@ ItemGrid::ItemGrid(FX::FXComposite* parent, InvoiceForm* form, const GoodsCatalo
                                              gettext("Egységár"), gettext("Egyéb adatok")};
   for (FXint column = 0; column < COLUMNS; ++column) {
     setColumnText(column, titles[column]);
-    setColumnWidth(column, kWidths[column]);
+    setColumnWidth(column, scaledToFont(getApp(), kWidths[column]));
   }
   setRowHeaderMode(FX::LAYOUT_FIX_WIDTH);
   setRowHeaderWidth(kRowHeaderWidth);
   setColumnHeaderMode(FX::LAYOUT_FIX_HEIGHT);
+  fitRows(*this);
 }
 
 void ItemGrid::create() {

@@ -19,6 +19,7 @@
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
 #include "host/plugin/PluginContainer.h"
+#include "host/ui/Legibility.h"
 #include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
@@ -58,7 +59,6 @@ namespace {
 
 constexpr FXint kWidth = 900;
 constexpr FXint kHeight = 600;
-constexpr FXint kSmallest = 200;
 constexpr const char* kSection = "MainWindow";
 
 FX::FXSelector settingsId(size_t index) {
@@ -188,16 +188,12 @@ void MainWindow::create() {
   if (!notices_.empty()) getApp()->addChore(this, ID_NOTICES);
 }
 
-// A window that was left on a bigger screen has to come back onto this one.
 void MainWindow::restorePlace() {
   FX::FXSettings& settings = getApp()->reg();
-  const FXint screenWidth = getRoot()->getWidth();
-  const FXint screenHeight = getRoot()->getHeight();
-  const FXint width = std::clamp(settings.readIntEntry(kSection, "width", kWidth), kSmallest, screenWidth);
-  const FXint height = std::clamp(settings.readIntEntry(kSection, "height", kHeight), kSmallest, screenHeight);
-  const FXint x = settings.readIntEntry(kSection, "x", (screenWidth - width) / 2);
-  const FXint y = settings.readIntEntry(kSection, "y", (screenHeight - height) / 2);
-  position(std::clamp(x, 0, screenWidth - width), std::clamp(y, 0, screenHeight - height), width, height);
+  const FXint width = settings.readIntEntry(kSection, "width", scaledToFont(getApp(), kWidth));
+  const FXint height = settings.readIntEntry(kSection, "height", scaledToFont(getApp(), kHeight));
+  placeOnScreen(*this, settings.readIntEntry(kSection, "x", (getRoot()->getWidth() - width) / 2),
+                settings.readIntEntry(kSection, "y", (getRoot()->getHeight() - height) / 2), width, height);
 }
 
 void MainWindow::savePlace() {

@@ -7,6 +7,7 @@
 #include "app/ErrorText.h"
 #include "app/window/Headers.h"
 #include "app/window/WindowIcons.h"
+#include "host/ui/Legibility.h"
 
 namespace Brontel::App {
 
@@ -22,6 +23,7 @@ FXIMPLEMENT(MessagePane, FXIconList, messagePaneMap, ARRAYNUMBER(messagePaneMap)
 
 namespace {
 
+constexpr FXint kHeight = 150;
 constexpr FXint kTextWidth = 590;
 constexpr FXint kPlaceWidth = 340;
 
@@ -41,11 +43,15 @@ MessagePane::MessagePane(FX::FXComposite* parent, FX::FXObject* receiver, FX::FX
                  FX::ICONLIST_DETAILED | FX::ICONLIST_BROWSESELECT | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y),
       blockingIcon_(makeIcon(getApp(), icon_blocking)),
       noticeIcon_(makeIcon(getApp(), icon_notice)) {
-  appendHeader(gettext("Üzenet"), nullptr, kTextWidth);
-  appendHeader(gettext("Hely"), nullptr, kPlaceWidth);
+  appendHeader(gettext("Üzenet"), nullptr, scaledToFont(getApp(), kTextWidth));
+  appendHeader(gettext("Hely"), nullptr, scaledToFont(getApp(), kPlaceWidth));
 }
 
 MessagePane::~MessagePane() = default;
+
+FXint MessagePane::usualHeight(const FX::FXApp* app) {
+  return std::min(scaledToFont(app, kHeight), app->getRootWindow()->getHeight() / 5);
+}
 
 void MessagePane::showMessages(const ListOfMessage& messages) {
   clearMessages();

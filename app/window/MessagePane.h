@@ -18,6 +18,9 @@ class MessagePane : public FX::FXIconList {
   MessagePane(FX::FXComposite* parent, FX::FXObject* target, FX::FXSelector sel);
   ~MessagePane() override;
 
+  /// How high one is at first: a few lines, and not too much of the screen.
+  static FX::FXint usualHeight(const FX::FXApp* app);
+
   /// Deletes the messages shown before and takes these over.
   void showMessages(const ListOfMessage& messages);
   /// Deletes the messages: their events may know objects that are about to go.

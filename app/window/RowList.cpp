@@ -51,7 +51,10 @@ void RowList::setDefaultOrder(FXint column, bool descending) {
 }
 
 void RowList::create() {
+  const bool isNew = id() == 0;
   FXIconList::create();
+  // Widths that somebody has left are those that they want.
+  if (isNew && !getApp()->reg().existingEntry(section_.text(), widthKey(0).text())) scaleHeaders(*getHeader());
   fitHeaders(*getHeader());
   fill();
 }

@@ -7,6 +7,7 @@
 #include "host/database/DataBaseValueLoader.h"
 #include "host/database/IntegerText.h"
 #include "host/ui/DBTablePersister.h"
+#include "host/ui/Legibility.h"
 
 namespace Brontel {
 
@@ -93,7 +94,9 @@ class DBTable::Collector : public DataBaseValueLoader {
 
 DBTable::DBTable(FX::FXComposite* parent, FX::FXObject* target, FX::FXSelector selector, FX::FXuint options, int x,
                  int y, int width, int height, int padLeft, int padRight, int padTop, int padBottom)
-    : FXTable(parent, target, selector, options, x, y, width, height, padLeft, padRight, padTop, padBottom) {}
+    : FXTable(parent, target, selector, options, x, y, width, height, padLeft, padRight, padTop, padBottom) {
+  fitRows(*this);
+}
 
 void DBTable::setColumnType(int column, COLUMN_TYPES type) {
   if (column < 0 || column >= getNumColumns()) return;
@@ -202,6 +205,17 @@ void DBTable::setItemFromControl(FXint row, FXint column, FX::FXWindow* control)
   } else {
     setItemText(row, column, list->getText());
   }
+}
+
+bool DBTable::hasChanges() const {
+  const auto isEntered = [](const FXString& value) { return !value.empty() && value != "0"; };
+  for (FXint row = 0; row < getNumRows(); ++row) {
+    const std::vector<FXString> values = storedValues(row);
+    const auto before = loaded_.find(getRowId(row));
+    const bool isStored = !isNewRow(row) && before != loaded_.end();
+    if (isStored ? before->second != values : std::any_of(values.begin(), values.end(), isEntered)) return true;
+  }
+  return !deletedIds_.empty();
 }
 
 void DBTable::saveToDB(DBTablePersister* persister) {

@@ -61,6 +61,8 @@ class DBTable : public FX::FXTable {
   void appendDeletedId(int id) { deletedIds_.push_back(id); }
   const std::vector<int>& getDeletedIds() const { return deletedIds_; }
 
+  /// Whether there is anything that saveToDB would write, apart from new rows in which nothing has been entered.
+  bool hasChanges() const;
   /// Hands everything to the persister: deleted keys, then the rows that were loaded and changed, then the new ones,
   /// each with all of its named fields. Starting a transaction is the caller's business.
   void saveToDB(DBTablePersister* persister);

@@ -7,6 +7,7 @@
 
 #include "host/database/MorvaneDatabase.h"
 #include "host/database/Transaction.h"
+#include "host/ui/Legibility.h"
 
 namespace Brontel {
 
@@ -29,6 +30,7 @@ namespace {
 
 constexpr FXint kWidth = 620;
 constexpr FXint kHeight = 520;
+constexpr int kFewestLetters = 20;  // of the field that takes the rest of the width
 
 // A number with an optional fraction; people write the fraction behind a comma or a point.
 bool isPrice(const FXString& text) {
@@ -78,7 +80,7 @@ Result GoodsDataWindow::open(MorvaneDatabase& database, const Plugin::PluginRegi
     isBuilt_ = true;
     buildFoot();
     getAccelTable()->addAccel(FX::KEY_Escape, this, FXSEL(FX::SEL_COMMAND, ID_CANCEL));
-    resize(kWidth, kHeight);
+    resizeToFont(*this, kWidth, kHeight);
   }
   return reload();
 }
@@ -121,7 +123,7 @@ void GoodsDataWindow::buildPanels() {
   FX::FXVerticalFrame* panel = addPanel(nameOf(kind_), nullptr);
   auto* fields = new FX::FXMatrix(panel, 2, FX::MATRIX_BY_COLUMNS | FX::LAYOUT_FILL_X);
   code_ = addField(fields, gettext("&Kód:"), 16);
-  name_ = addField(fields, gettext("&Név:"), 40);
+  name_ = addField(fields, gettext("&Név:"), kFewestLetters);
   unit_ = addField(fields, gettext("&Egység:"), 10);
   price_ = addField(fields, gettext("&Ár:"), 14);
   name_->setLayoutHints(FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_COLUMN);
@@ -161,7 +163,8 @@ bool GoodsDataWindow::hasUnsavedChanges() const {
 }
 
 bool GoodsDataWindow::refuse(FXTextField* field, const FXString& text) {
-  FX::FXMessageBox::information(this, FX::MBOX_OK, gettext("Hiányos adatok"), "%s", text.text());
+  FX::FXMessageBox::information(this, FX::MBOX_OK, gettext("Hiányos adatok"), "%s",
+                                wrappedForBox(getApp(), text).text());
   getTabs()->setCurrent(0);
   field->setFocus();
   field->selectAll();
@@ -205,10 +208,11 @@ bool GoodsDataWindow::store(Goods& record) {
   }
   transaction.rollback();
   if (result == Result::Overtaken) {
+    const FXString text = gettext(
+        "Közben más módosította vagy törölte, ezért a mentés az ő adatait írná felül.\n"
+        "Amit itt beírt, megmaradt. Jegyezze fel, zárja be az ablakot, és nyissa meg újra.");
     FX::FXMessageBox::error(this, FX::MBOX_OK, gettext("A mentés nem sikerült"), "%s",
-                            gettext("Közben más módosította vagy törölte, ezért a mentés az ő adatait írná felül.\n"
-                                    "Amit itt beírt, megmaradt. Jegyezze fel, zárja be az ablakot, és nyissa meg "
-                                    "újra."));
+                            wrappedForBox(getApp(), text).text());
   }
   return false;
 }

@@ -5,6 +5,7 @@
 
 #include "host/plugin/PluginContainer.h"
 #include "host/ui/DBTable.h"
+#include "host/ui/KeyboardMenu.h"
 #include "host/ui/Morvane.h"
 
 namespace Brontel::Plugin::UI {
@@ -13,6 +14,8 @@ using FX::FXString;
 
 FXDEFMAP(PluginSettingsDialogBox)
 pluginSettingsDialogBoxMap[] = {
+    FXMAPFUNC(FX::SEL_CLOSE, 0, PluginSettingsDialogBox::onClose),
+    FXMAPFUNC(FX::SEL_KEYPRESS, 0, PluginSettingsDialogBox::onKeyPress),
     FXMAPFUNC(FX::SEL_RIGHTBUTTONRELEASE, PluginSettingsDialogBox::ID_TABLE, PluginSettingsDialogBox::onContextMenu),
     FXMAPFUNC(FX::SEL_KEYPRESS, PluginSettingsDialogBox::ID_TABLE, PluginSettingsDialogBox::onTableKey),
     FXMAPFUNC(FX::SEL_COMMAND, PluginSettingsDialogBox::ID_NEW_ROW, PluginSettingsDialogBox::onCmdNewRow),
@@ -124,6 +127,23 @@ DBTable* PluginSettingsDialogBox::findTable() const {
   return contentFrame_ == nullptr ? nullptr : findTableIn(contentFrame_, this);
 }
 
+// Neither the cross in the frame nor a key pressed by accident says, as Cancel does, that nothing is to be kept.
+long PluginSettingsDialogBox::onClose(FX::FXObject* sender, FX::FXSelector, void* ptr) {
+  DBTable* table = findTable();
+  if (table != nullptr) table->acceptInput(TRUE);
+  if (table != nullptr && table->hasChanges()) {
+    const FX::FXuint answer = FX::FXMessageBox::question(this, FX::MBOX_YES_NO, gettext("Mentetlen változások"), "%s",
+                                                         gettext("A változások elvesznek. Valóban bezárja?"));
+    if (answer != FX::MBOX_CLICKED_YES) return 1;
+  }
+  return handle(sender, FXSEL(FX::SEL_COMMAND, ID_CANCEL), ptr);
+}
+
+long PluginSettingsDialogBox::onKeyPress(FX::FXObject* sender, FX::FXSelector sel, void* ptr) {
+  if (FXTopWindow::onKeyPress(sender, sel, ptr) != 0) return 1;
+  return static_cast<const FX::FXEvent*>(ptr)->code == FX::KEY_Escape ? onClose(sender, 0, ptr) : 0;
+}
+
 long PluginSettingsDialogBox::onContextMenu(FX::FXObject* sender, FX::FXSelector, void* ptr) {
   auto* table = dynamic_cast<DBTable*>(sender);
   const auto* event = static_cast<const FX::FXEvent*>(ptr);
@@ -132,7 +152,7 @@ long PluginSettingsDialogBox::onContextMenu(FX::FXObject* sender, FX::FXSelector
   goToRowAt(*table, event->win_y);
   selectSomething(*table);
   const auto* app = dynamic_cast<Morvane*>(getApp());
-  FX::FXMenuPane pane(this);
+  KeyboardMenu pane(this);
   new FX::FXMenuCommand(&pane, gettext("Új &sor\tIns"), app == nullptr ? nullptr : app->getNewRowIcon(), table,
                         DBTable::ID_NEW_ROW);
   new FX::FXMenuCommand(&pane, gettext("&Törlés\tDel"), app == nullptr ? nullptr : app->getDeleteIcon(), this,

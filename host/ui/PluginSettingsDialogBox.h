@@ -38,6 +38,9 @@ class PluginSettingsDialogBox : public FX::FXDialogBox {
   /// Runs the dialog again after it has been closed, as the user left it. Returns what execute does.
   FX::FXuint resume();
 
+  /// Asks before what has been entered is lost.
+  long onClose(FX::FXObject* sender, FX::FXSelector, void* ptr);
+  long onKeyPress(FX::FXObject* sender, FX::FXSelector sel, void* ptr);
   /// Shows the menu "new row" and "delete" over the table that sent the message.
   long onContextMenu(FX::FXObject* sender, FX::FXSelector sel, void* ptr);
   long onTableKey(FX::FXObject* sender, FX::FXSelector sel, void* ptr);

@@ -50,22 +50,6 @@ TEST(CollationTest, ordersNumbersByValueAndAccentsLast) {
   }
 }
 
-TEST(DialogsTest, breaksLongLinesAtBlanks) {
-  const FXString word = "árvíztűrő ";
-  FXString text;
-  for (int i = 0; i < 30; ++i) text += word;
-  const FXString wrapped = App::Dialogs::wrapped(text);
-  for (FX::FXint line = 0; line <= wrapped.contains('\n'); ++line) {
-    EXPECT_LE(wrapped.section('\n', line).count(), 91) << line;
-  }
-  FXString joined = wrapped;
-  EXPECT_EQ(joined.substitute('\n', ' '), text);
-  EXPECT_GE(wrapped.contains('\n'), 3);
-  EXPECT_STREQ(App::Dialogs::wrapped("a\nb c").text(), "a\nb c");
-  const FXString long_ = FXString('x', 300);
-  EXPECT_EQ(App::Dialogs::wrapped(long_), long_);
-}
-
 TEST(DialogsTest, shortensAtACharacter) {
   FXString text;
   for (int i = 0; i < 400; ++i) text += "é";

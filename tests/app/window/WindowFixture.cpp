@@ -12,7 +12,8 @@ using Brontel::App::InvoiceActions;
 using Brontel::App::PluginStart;
 using Brontel::App::SampleData;
 
-WindowFixture::WindowFixture() : loader(application.get(), registry), user(application) {
+WindowFixture::WindowFixture(const std::string& screen)
+    : application(nullptr, screen), loader(application.get(), registry), user(application) {
   Brontel::App::FoxTexts::install(application.get());
   EXPECT_TRUE(database.open(path.c_str(), HostDatabase::Use::Create));
   PluginStart start(*application.get(), database, loader);

@@ -33,7 +33,7 @@ class WindowFixture : public ::testing::Test {
   static constexpr int kComplete = 1;    ///< open, nothing to mend
   static constexpr int kIncomplete = 2;  ///< open, with things to mend
 
-  WindowFixture();
+  explicit WindowFixture(const std::string& screen = "1280x1024x24");
   ~WindowFixture() override;
 
   /// The main window, on the screen with the keyboard.
