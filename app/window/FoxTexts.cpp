@@ -1,6 +1,7 @@
 #include "app/window/FoxTexts.h"
 
 #include <cstring>
+#include <utility>
 
 #include <libintl.h>
 
@@ -128,11 +129,22 @@ constexpr Text kTexts[] = {
     {"Sun", gettext_noop("V")},
 };
 
+// The file dialog's kinds of files are not translated but taken from the settings: command;name;icons.
+void nameKindsOfFiles(FX::FXSettings& settings) {
+  const std::pair<const char*, const char*> kinds[] = {{"defaultdirbinding", gettext("Mappa")},
+                                                       {"defaultexecbinding", gettext("Program")},
+                                                       {"defaultfilebinding", gettext("Fájl")}};
+  for (const auto& [key, name] : kinds) {
+    settings.writeStringEntry("FILETYPES", key, (";" + FX::FXString(name)).text());
+  }
+}
+
 }  // namespace
 
 void FoxTexts::install(FX::FXApp* app) {
   delete app->getTranslator();
   app->setTranslator(new FoxTexts(app));
+  nameKindsOfFiles(app->reg());
 }
 
 const FX::FXchar* FoxTexts::tr(const FX::FXchar*, const FX::FXchar* message, const FX::FXchar*) const {

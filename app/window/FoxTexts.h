@@ -13,7 +13,8 @@ class FoxTexts : public FX::FXTranslator {
   FXDECLARE_ABSTRACT(FoxTexts)
 
  public:
-  /// Makes a new one the application's translator, in place of the one that it has.
+  /// Makes a new one the application's translator, in place of the one that it has. The application has read its
+  /// settings already.
   static void install(FX::FXApp* app);
 
   explicit FoxTexts(FX::FXApp* app) : FXTranslator(app) {}

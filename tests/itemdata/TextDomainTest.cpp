@@ -1,13 +1,10 @@
 // Which catalogue each text comes from.
 
-#include <cstdlib>
-
-#include <libintl.h>
-
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataListLoader.h"
 #include "tests/itemdata/ListFixture.h"
 #include "tests/support/MessageCatalog.h"
+#include "tests/support/SpokenLanguage.h"
 #include "tests/support/TemporaryDirectory.h"
 
 using namespace Brontel::Plugin::ItemData;
@@ -24,16 +21,8 @@ const char* const kTitle = "Számla: Tételek listája\n[%s]\n";
 /// Catalogues of the host's and of the plug-in's domain.
 class TextDomainTest : public ListFixture {
  protected:
-  void SetUp() override { setenv("LANGUAGE", "xx", 1); }
-  void TearDown() override {
-    unsetenv("LANGUAGE");
-    textdomain("messages");
-  }
-
   void install(const MessageCatalog& catalog, const char* domain) {
     ASSERT_TRUE(catalog.install(directory.path(), "xx", domain));
-    bindtextdomain(domain, directory.path().c_str());
-    bind_textdomain_codeset(domain, "UTF-8");
   }
 
   /// The host's catalogue has this text for each of the check's, the plug-in's has another.
@@ -49,7 +38,6 @@ class TextDomainTest : public ListFixture {
     plugin.add("Mennyiség", "Quantité");
     install(host, "brontel-host");
     install(plugin, kTextDomain);
-    textdomain("brontel-host");
   }
 
   Texts checked() {
@@ -61,6 +49,7 @@ class TextDomainTest : public ListFixture {
   }
 
   TemporaryDirectory directory;
+  SpokenLanguage language{"xx", directory.path(), {"brontel-host", kTextDomain}};
 };
 
 }  // namespace

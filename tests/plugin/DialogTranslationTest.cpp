@@ -1,12 +1,9 @@
 // In which catalogue the texts of the dialog, its table and the item menu are looked up.
 
-#include <cstdlib>
-
-#include <libintl.h>
-
 #include "plugin/InvoiceItemMenu.h"
 #include "tests/plugin/FormFixture.h"
 #include "tests/support/MessageCatalog.h"
+#include "tests/support/SpokenLanguage.h"
 #include "tests/support/TemporaryDirectory.h"
 
 namespace {
@@ -25,18 +22,6 @@ const Translations kPlugins = {{"&Új sor\tIns", "&New row\tIns"},
 
 class DialogTranslationTest : public FormFixture {
  protected:
-  DialogTranslationTest() {
-    setenv("LANGUAGE", "en", 1);
-    for (const char* domain : {kHostDomain, kPluginDomain}) {
-      bindtextdomain(domain, catalogs.path().c_str());
-      bind_textdomain_codeset(domain, "UTF-8");
-    }
-    textdomain(kHostDomain);
-  }
-  ~DialogTranslationTest() override {
-    unsetenv("LANGUAGE");
-    textdomain("messages");
-  }
 
   void install(const char* domain, const Translations& texts) {
     MessageCatalog catalog;
@@ -63,6 +48,7 @@ class DialogTranslationTest : public FormFixture {
   }
 
   TemporaryDirectory catalogs;
+  SpokenLanguage english{"en", catalogs.path(), {kHostDomain, kPluginDomain}};
 };
 
 }  // namespace

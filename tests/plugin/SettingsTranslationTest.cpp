@@ -1,13 +1,10 @@
 // In which catalogue the texts of the settings dialog and the association panel are looked up.
 
-#include <cstdlib>
-
-#include <libintl.h>
-
 #include "fxext/widgets/FXDualList.h"
 #include "host/ui/ProductDataWindow.h"
 #include "tests/plugin/WindowFixture.h"
 #include "tests/support/MessageCatalog.h"
+#include "tests/support/SpokenLanguage.h"
 #include "tests/support/TemporaryDirectory.h"
 
 using FX::FXWindow;
@@ -40,17 +37,7 @@ const Translations kPlugins = {{"Név", "Name"},
 class SettingsTranslationTest : public WindowFixture {
  protected:
   SettingsTranslationTest() {
-    setenv("LANGUAGE", "en", 1);
-    for (const char* domain : {kHostDomain, kPluginDomain}) {
-      bindtextdomain(domain, catalogs.path().c_str());
-      bind_textdomain_codeset(domain, "UTF-8");
-    }
-    textdomain(kHostDomain);
     database.exec("insert into t_itemvariable (t_itemvariable_id, name, type) values (1, 'a', 3)");
-  }
-  ~SettingsTranslationTest() override {
-    unsetenv("LANGUAGE");
-    textdomain("messages");
   }
 
   void install(const char* domain, const Translations& texts) {
@@ -92,6 +79,7 @@ class SettingsTranslationTest : public WindowFixture {
   }
 
   TemporaryDirectory catalogs;
+  SpokenLanguage english{"en", catalogs.path(), {kHostDomain, kPluginDomain}};
 };
 
 }  // namespace

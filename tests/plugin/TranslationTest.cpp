@@ -1,13 +1,12 @@
 // Which texts are looked up in which catalogue.
 
-#include <cstdlib>
-
 #include <gtest/gtest.h>
 #include <libintl.h>
 
 #include "plugin/GetPlugin.h"
 #include "tests/plugin/PluginWorld.h"
 #include "tests/support/MessageCatalog.h"
+#include "tests/support/SpokenLanguage.h"
 #include "tests/support/TemporaryDirectory.h"
 
 using Brontel::Invoice;
@@ -31,17 +30,6 @@ constexpr const char* kLess = "Egyéb tételadatok: Az összmennyiség (%s) keve
 /// A user who reads English, on a host whose own domain is "host-domain".
 class TranslationTest : public testing::Test {
  protected:
-  TranslationTest() {
-    setenv("LANGUAGE", "en", 1);
-    bindtextdomain("host-domain", catalogs_.path().c_str());
-    bind_textdomain_codeset("host-domain", "UTF-8");
-    textdomain("host-domain");
-  }
-  ~TranslationTest() override {
-    unsetenv("LANGUAGE");
-    textdomain("messages");
-  }
-
   void install(const char* domain, const std::vector<std::pair<const char*, const char*>>& texts) {
     MessageCatalog catalog;
     for (const auto& [text, translation] : texts) catalog.add(text, translation);
@@ -49,6 +37,7 @@ class TranslationTest : public testing::Test {
   }
 
   TemporaryDirectory catalogs_;
+  SpokenLanguage english_{"en", catalogs_.path(), {"host-domain"}};
 };
 
 /// Messages of every kind that the check can give.

@@ -28,7 +28,8 @@ TEST(TestEnvironmentTest, eachTestHasAHomeOfItsOwnAndAPlainLocale) {
   EXPECT_EQ(std::string(getenv("XDG_DATA_HOME")), std::string(getenv("HOME")) + "/XDG_DATA_HOME");
   EXPECT_EQ(getenv("LANGUAGE"), nullptr);
   EXPECT_EQ(getenv("DISPLAY"), nullptr);
-  EXPECT_STREQ(setlocale(LC_MESSAGES, nullptr), "C.UTF-8");
+  EXPECT_STREQ(setlocale(LC_CTYPE, nullptr), "C.UTF-8");
+  EXPECT_STREQ(setlocale(LC_MESSAGES, nullptr), "C_HU.UTF-8");
 }
 
 TEST(TemporaryDirectoryTest, goesWithEverythingInIt) {

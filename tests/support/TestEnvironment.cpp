@@ -39,6 +39,8 @@ class TestEnvironment : public ::testing::Environment {
     for (const char* name : {"LANGUAGE", "LANG", "DISPLAY", "BRONTEL_PLUGIN_PATH"}) unsetenv(name);
     setenv("LC_ALL", "C.UTF-8", 1);
     std::setlocale(LC_ALL, "");
+    // The same by a name under which every version of the C library looks at LANGUAGE.
+    std::setlocale(LC_MESSAGES, "C_HU.UTF-8");
   }
 
   void TearDown() override { home_.reset(); }
