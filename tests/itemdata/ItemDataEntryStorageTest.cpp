@@ -1,7 +1,7 @@
 // How a cell is read from its row and written to it.
 
 #include "itemdata/Codes.h"
-#include "itemdata/ItemDataEntry.h"
+#include "itemdata/ItemDataStringEntry.h"
 #include "tests/itemdata/ItemDataFixture.h"
 #include "tests/support/FaultObserver.h"
 #include "tests/support/RecordingObserver.h"
@@ -9,6 +9,19 @@
 using namespace Brontel::Plugin::ItemData;
 
 namespace {
+
+/// Counts how often it is asked for its quantity.
+class AskedEntry : public ItemDataStringEntry {
+ public:
+  explicit AskedEntry(Brontel::Entity* owner) { owner_ = owner; }
+
+  FXExt::FXDecimal getQuantity() const override {
+    ++asked;
+    return ItemDataStringEntry::getQuantity();
+  }
+
+  mutable int asked = 0;
+};
 
 class ItemDataEntryStorageTest : public ItemDataFixture {
  protected:
@@ -51,6 +64,17 @@ TEST_F(ItemDataEntryStorageTest, readsValueAndKeyOfItsRow) {
   EXPECT_EQ(recorder.records()[0].value("t_invoiceitem_1"), "10");
   EXPECT_EQ(recorder.records()[0].value("t_itemvariable_1"), "12");
   EXPECT_EQ(recorder.records()[0].value("row"), "1");
+}
+
+// The quantity stands in another cell of the row: a cell that looked for it would make reading a list quadratic.
+TEST_F(ItemDataEntryStorageTest, readingDoesNotLookForTheQuantity) {
+  insertCell(10, 12, 1, "x", 7);
+  AskedEntry entry(&item);
+  entry.itemvariable = 12;
+  entry.row = 1;
+  EXPECT_EQ(entry.load(database.get()), 0);
+  EXPECT_STREQ(entry.value.text(), "x");
+  EXPECT_EQ(entry.asked, 0);
 }
 
 TEST_F(ItemDataEntryStorageTest, readsACellWithoutVariable) {

@@ -233,6 +233,26 @@ TEST_F(ItemDataListTest, tellsItsCellsOfAStatus) {
   for (const unsigned int other : {0u, 100u, 202u, 252u, 451u, 801u, 0xffffffffu}) EXPECT_EQ(told(other, 5), 0u);
 }
 
+TEST_F(ItemDataListTest, aRowGoesFromItsLastCellToItsFirst) {
+  ProbeEntry::Notes notes;
+  ItemDataList list(&item, nullptr);
+  for (const int variable : {11, 12, 13, 14}) {
+    list.append(new ProbeEntry(notes, variable == 14 ? 2 : 1));
+    list[list.no() - 1]->itemvariable = variable;
+  }
+  list.markRowForDelete(1);
+  EXPECT_EQ(notes.destroyedVariables, (std::vector<int>{13, 12, 11}));
+  EXPECT_EQ(list.no(), 1);
+}
+
+TEST_F(ItemDataListTest, markingRowZeroLeavesTheRowCountAlone) {
+  ItemDataList list(&item, nullptr);
+  add(list, 1, 11, 0, "x", 7);
+  list.markRowForDelete(0);
+  EXPECT_EQ(list[0]->del, 1);
+  EXPECT_EQ(list.rows, 0);
+}
+
 TEST_F(ItemDataListTest, aListWithoutItemHearsWhatIsAlwaysTold) {
   ProbeEntry::Notes notes;
   ItemDataList list;

@@ -9,6 +9,7 @@ class ProbeEntry : public Brontel::Plugin::ItemData::ItemDataStringEntry {
  public:
   struct Notes {
     int destroyed = 0;
+    std::vector<int> destroyedVariables;  // in the order of the cells' ends
     std::vector<unsigned int> statuses;
     std::vector<int> checkedRows;
     std::vector<int> loadedRows;
@@ -20,7 +21,10 @@ class ProbeEntry : public Brontel::Plugin::ItemData::ItemDataStringEntry {
     row = probeRow;
     pk = probeKey;
   }
-  ~ProbeEntry() override { ++notes_.destroyed; }
+  ~ProbeEntry() override {
+    ++notes_.destroyed;
+    notes_.destroyedVariables.push_back(itemvariable);
+  }
 
   ProbeEntry* clone(Brontel::Entity* owner) const override {
     auto* copy = new ProbeEntry(notes_);

@@ -106,6 +106,24 @@ TEST_F(StoredKeysTest, aSecondSaveUpdates) {
   EXPECT_EQ(keysOf(list), (std::vector<int>{1, 2, 3, 4}));
 }
 
+TEST_F(StoredKeysTest, aCellWhoseRowIsGoneAfterASaveIsNotTakenForStored) {
+  addRow(1, "5", "S1");
+  save();
+  EXPECT_TRUE(StoredKeys::hasAll(list));
+  database.exec(
+      "create trigger vanish after update on t_invoiceitemdata when new.value='6' begin "
+      "delete from t_invoiceitemdata where t_invoiceitemdata_id=new.t_invoiceitemdata_id; end");
+  list[0]->value = "6";
+  save();
+  EXPECT_EQ(stored(10), (Texts{"12/1=S1"}));
+  EXPECT_EQ(keysOf(list), (std::vector<int>{0, 2}));
+  EXPECT_FALSE(StoredKeys::hasAll(list));
+  // The next save stores it as if it had never been.
+  save();
+  EXPECT_EQ(stored(10), (Texts{"12/1=S1", "-1/1=6"}));
+  EXPECT_TRUE(StoredKeys::hasAll(list));
+}
+
 TEST_F(StoredKeysTest, aRowDeletedAfterASaveIsDeletedByTheNext) {
   addRow(1, "5", "S1");
   addRow(2, "3", "S2");

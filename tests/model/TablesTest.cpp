@@ -158,6 +158,8 @@ TEST_F(TablesTest, declaringRunsNoStatement) {
   ItemVariable variable(nullptr);
   InvoiceItemData cell(nullptr);
   ProductItemData product(nullptr);
-  for (Table* table : std::initializer_list<Table*>{&variable, &cell, &product}) table->init();
+  ServiceItemData service(nullptr);
+  SuiteItemData suite(nullptr);
+  for (Table* table : std::initializer_list<Table*>{&variable, &cell, &product, &service, &suite}) table->init();
   EXPECT_TRUE(recorder.texts().empty());
 }

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -16,6 +15,7 @@
 #include "host/plugin/PluginContainer.h"
 #include "host/schema/Table.h"
 #include "host/ui/DBTablePersister.h"
+#include "tests/support/Slots.h"
 
 // Plug-ins are built apart from the host and call it by position: the order of virtual operations is part of the
 // interface.
@@ -25,15 +25,6 @@ namespace {
 namespace Plugin = Brontel::Plugin;
 
 using Slots = std::vector<std::ptrdiff_t>;
-
-// A pointer to a virtual operation holds its offset in the table of virtual operations, plus one.
-template <class Operation>
-std::ptrdiff_t slotOf(Operation operation) {
-  std::ptrdiff_t offset = 0;
-  std::memcpy(&offset, &operation, sizeof offset);
-  EXPECT_EQ(offset % 2, 1) << "not virtual";
-  return (offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
 
 void expectConsecutive(const Slots& slots, std::ptrdiff_t first) {
   for (size_t i = 0; i < slots.size(); ++i) EXPECT_EQ(slots[i], first + static_cast<std::ptrdiff_t>(i));
