@@ -39,6 +39,10 @@ class Keys {
   std::vector<int> items_;
 };
 
+void loadItems(const Invoice& invoice, const Plugin::PluginRegistry& plugins) {
+  for (FXint i = 0; i < invoice.getItems().no(); ++i) plugins.load(invoice.getItems()[i]);
+}
+
 }  // namespace
 
 std::unique_ptr<Invoice> InvoiceRepository::load(int id, Result& result) {
@@ -50,7 +54,7 @@ std::unique_ptr<Invoice> InvoiceRepository::load(int id, Result& result) {
   const Database::BoundValues values{BoundValue{"id", false, id, {}}};
   database_.run(InvoiceLoader::kSelect, values, &head);
   database_.run(InvoiceItemLoader::kSelect, values, &items);
-  loadPluginData(*invoice);
+  loadItems(*invoice, plugins_);
   result = database_.getFailures() != failures ? Result::Failed
            : invoice->getId() == 0             ? Result::NotFound
                                                : Result::Done;
@@ -58,7 +62,9 @@ std::unique_ptr<Invoice> InvoiceRepository::load(int id, Result& result) {
 }
 
 void InvoiceRepository::loadPluginData(Invoice& invoice) {
-  for (FXint i = 0; i < invoice.getItems().no(); ++i) plugins_.load(invoice.getItems()[i]);
+  // What an item refers to may be saved anew by somebody else meanwhile, and must not be read half of each.
+  const Transaction transaction(database_, Transaction::Kind::Read);
+  loadItems(invoice, plugins_);
 }
 
 InvoiceRepository::Result InvoiceRepository::save(Invoice& invoice) {

@@ -62,6 +62,19 @@ TEST_F(InvoiceRepositoryLoadTest, readsOneStateOfTheDatabase) {
   FileConnection(database.path()).exec("begin exclusive; commit");
 }
 
+TEST_F(InvoiceRepositoryLoadTest, letsPlugInsReadOneStateForANewInvoiceToo) {
+  const auto invoice = makeInvoice();
+  log.clear();
+  {
+    const RecordingObserver recorder(database.handle());
+    repository.loadPluginData(*invoice);
+    EXPECT_EQ(recorder.texts(), std::vector<std::string>{"begin"});
+  }
+  EXPECT_EQ(log, (std::vector<std::string>{"p.load 0", "p.load 0"}));
+  // Nothing is held once it is done.
+  FileConnection(database.path()).exec("begin exclusive; commit");
+}
+
 TEST_F(InvoiceRepositoryLoadTest, handsNothingOutThatItCouldNotReadInFull) {
   int faults = 1;
   for (int number = 1; faults > 0; ++number) {
