@@ -9,6 +9,7 @@ namespace {
 using Use = HostDatabase::Use;
 
 constexpr const char* kInvoice = gettext_noop("SZÁMLA");
+constexpr const char* kInvoiceToFile = gettext_noop("SZÁMLA [-o FÁJL]");
 
 }  // namespace
 
@@ -20,9 +21,10 @@ const std::vector<Command>& allCommands() {
        Use::Read, false, runList},
       {"check", kInvoice, gettext_noop("a számla ellenőrzése; a kilépési kód 1, ha valamit javítani kell"), 1, 0,
        Use::Read, true, runCheck},
-      {"print", kInvoice, gettext_noop("a számla tételei szövegként"), 1, 0, Use::Read, true, runPrint},
-      {"export", gettext_noop("SZÁMLA [-o FÁJL]"), gettext_noop("a számla XML-ben a kimenetre vagy a fájlba"), 1, 'o',
-       Use::Read, true, runExport},
+      {"print", kInvoiceToFile, gettext_noop("a számla tételei szövegként, vagy a számla PDF-ben a fájlba"), 1, 'o',
+       Use::Read, true, runPrint},
+      {"export", kInvoiceToFile, gettext_noop("a számla XML-ben a kimenetre vagy a fájlba"), 1, 'o', Use::Read, true,
+       runExport},
       {"save", kInvoice, gettext_noop("a számla betöltése és mentése változatlanul"), 1, 0, Use::Write, true, runSave},
       {"derive", kInvoice, gettext_noop("új, a számlára hivatkozó helyesbítő számla; kiírja az azonosítóját"), 1, 0,
        Use::Write, true, runDerive},

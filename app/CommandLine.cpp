@@ -103,7 +103,7 @@ bool CommandLine::takeCommand(int count, char* const words[]) {
 bool CommandLine::checkUse() {
   const char option = command_ == nullptr ? '\0' : command_->option;
   if (!outputFile_.empty() && option != 'o') {
-    return refuse(gettext("Az -o kapcsoló csak az export parancshoz való."));
+    return refuse(gettext("Az -o kapcsoló csak a print és az export parancshoz való."));
   }
   if (sample_ && option != 's') return refuse(gettext("A --sample kapcsoló csak az init parancshoz való."));
   return true;

@@ -26,7 +26,7 @@ class CommandLine {
   /// Empty for the default.
   const FX::FXString& getDatabase() const { return database_; }
   const FX::FXString& getPlugins() const { return plugins_; }
-  /// Where an export goes; empty for the standard output.
+  /// Where an export or a PDF goes; empty for the standard output.
   const FX::FXString& getOutputFile() const { return outputFile_; }
   bool wantsSample() const { return sample_; }
 

@@ -46,6 +46,7 @@ int WindowRun::run(char* program) {
     new MainWindow(workspace, notices_);
     app_.create();
     code = app_.run();
+    workspace.getLongWork().end();
     deleteWindows();
   }
   // What the plug-ins have made needs their code to go.

@@ -8,6 +8,7 @@
 #include "app/window/InvoiceEditForm.h"
 #include "app/window/InvoiceEditor.h"
 #include "app/window/MessagePane.h"
+#include "app/window/PrintPreview.h"
 #include "app/window/Workspace.h"
 #include "host/message/FillIn.h"
 #include "host/ui/WaitCursor.h"
@@ -76,6 +77,18 @@ InvoiceEditForm* InvoiceActions::saveAndOpen(std::unique_ptr<Invoice> invoice, c
   return open(invoice->getId());
 }
 
+bool InvoiceActions::preview(int id) {
+  if (InvoiceEditForm* form = findForm(id)) {
+    form->raise();
+    form->handle(owner_, FXSEL(FX::SEL_COMMAND, InvoiceEditForm::ID_PREVIEW), nullptr);
+    return true;
+  }
+  const std::unique_ptr<Invoice> invoice = load(id);
+  if (invoice == nullptr) return false;
+  PrintPreview(owner_, workspace_, *invoice).execute(FX::PLACEMENT_OWNER);
+  return true;
+}
+
 bool InvoiceActions::closeInvoice(int id) {
   InvoiceEditForm* form = findForm(id);
   if (form == nullptr) form = open(id);
@@ -138,7 +151,11 @@ bool InvoiceActions::saveForm(int id) {
 
 std::unique_ptr<Invoice> InvoiceActions::load(int id) {
   Result result = Result::NotFound;
-  std::unique_ptr<Invoice> invoice = workspace_.getRepository().load(id, result);
+  std::unique_ptr<Invoice> invoice;
+  {
+    const WaitCursor wait(&workspace_.getApp());
+    invoice = workspace_.getRepository().load(id, result);
+  }
   if (result == Result::NotFound) {
     refuse(gettext("Ezt a számlát közben más törölte."));
     workspace_.notifyChanged();

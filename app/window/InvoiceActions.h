@@ -25,6 +25,9 @@ class InvoiceActions {
   InvoiceEditForm* derive(int id);
   InvoiceEditForm* copy(int id);
 
+  /// Shows an invoice as it is printed: as it stands in its form, if one is open. False when it cannot be read.
+  bool preview(int id);
+
   /// Opens the invoice and closes it for good if nothing in it must be dealt with; what there is stands there then.
   bool closeInvoice(int id);
   bool storno(int id);

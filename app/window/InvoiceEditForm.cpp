@@ -3,7 +3,6 @@
 #include <libintl.h>
 
 #include "app/ErrorText.h"
-#include "app/InvoiceText.h"
 #include "app/InvoiceXml.h"
 #include "app/window/Dialogs.h"
 #include "app/window/InvoiceHead.h"
@@ -11,11 +10,11 @@
 #include "app/window/ItemEditing.h"
 #include "app/window/ItemGrid.h"
 #include "app/window/MessagePane.h"
-#include "app/window/TextPreview.h"
+#include "app/window/PrintPreview.h"
 #include "app/window/WindowIcons.h"
 #include "app/window/Workspace.h"
-#include "host/ui/Legibility.h"
 #include "host/message/FillIn.h"
+#include "host/ui/Legibility.h"
 #include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
@@ -55,18 +54,6 @@ constexpr FXint kHeight = 640;
 constexpr FXint kCascade = 24;
 constexpr FXint kCascades = 6;
 constexpr const char* kSection = "InvoiceForm";
-
-FXString suggestFile(const Invoice& invoice) {
-  FXString name = invoice.getDisplayText();
-  for (const FX::FXchar c : {'/', '\\', '#', ' '}) name.substitute(c, '-');
-  return name + ".xml";
-}
-
-FXString describeHead(const Invoice& invoice) {
-  return fillIn(gettext("%s: %s\nPartner: %s\nKelt: %s\nÁllapot: %s\n\n"),
-                {nameOfType(invoice.getTypeCode()), invoice.getDisplayText(), invoice.getPartner(), invoice.getDate(),
-                 nameOfStatus(invoice.getStatus())});
-}
 
 }  // namespace
 
@@ -349,17 +336,16 @@ long InvoiceEditForm::onCmdCheck(FX::FXObject*, FX::FXSelector, void*) {
 
 long InvoiceEditForm::onCmdPreview(FX::FXObject*, FX::FXSelector, void*) {
   if (!acceptEditors()) return 1;
-  const FXString text =
-      describeHead(editor_.getInvoice()) + toText(editor_.getInvoice(), workspace_.getPlugins()).c_str();
   const Pause pause(*this);
-  TextPreview(this, gettext("Nyomtatási kép"), text).execute(FX::PLACEMENT_OWNER);
+  PrintPreview(this, workspace_, editor_.getInvoice()).execute(FX::PLACEMENT_OWNER);
   return 1;
 }
 
 long InvoiceEditForm::onCmdExport(FX::FXObject*, FX::FXSelector, void*) {
   if (!acceptEditors()) return 1;
-  const FXString file = Dialogs::askForNewFile(this, gettext("XML exportálása"), suggestFile(editor_.getInvoice()),
-                                               gettext("XML-fájlok (*.xml)\nMinden fájl (*)"));
+  const FXString name = fileNameFor(editor_.getInvoice().getDisplayText(), ".xml");
+  const FXString file =
+      Dialogs::askForNewFile(this, gettext("XML exportálása"), name, gettext("XML-fájlok (*.xml)\nMinden fájl (*)"));
   if (file.empty()) return 1;
   FXString error;
   {

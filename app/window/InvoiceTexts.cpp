@@ -92,4 +92,10 @@ bool readDecimal(const FXString& typed, FXString& number) {
   return true;
 }
 
+FXString fileNameFor(const FXString& number, const char* ending) {
+  FXString name(number);
+  for (const FX::FXchar c : {'/', '\\', '#', ' '}) name.substitute(c, '-');
+  return name + ending;
+}
+
 }  // namespace Brontel::App

@@ -20,4 +20,7 @@ bool isDate(const FX::FXString& text);
 /// more digits than quantities are kept with.
 bool readDecimal(const FX::FXString& typed, FX::FXString& number);
 
+/// A name for a file about the invoice of that number, without what file names cannot have.
+FX::FXString fileNameFor(const FX::FXString& number, const char* ending);
+
 }  // namespace Brontel::App

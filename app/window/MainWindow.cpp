@@ -44,12 +44,14 @@ mainWindowMap[] = {
     FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_CLOSE_INVOICE, MainWindow::onCmdCloseInvoice),
     FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_STORNO, MainWindow::onCmdStorno),
     FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_DELETE_INVOICE, MainWindow::onCmdDeleteInvoice),
+    FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_PREVIEW, MainWindow::onCmdPreview),
     FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_BACKUP, MainWindow::onCmdBackup),
     FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_REFRESH, MainWindow::onChanged),
     FXMAPFUNC(FX::SEL_COMMAND, MainWindow::ID_ABOUT, MainWindow::onCmdAbout),
     FXMAPFUNCS(FX::SEL_COMMAND, MainWindow::ID_SETTINGS, MainWindow::ID_SETTINGS_LAST, MainWindow::onCmdSettings),
     FXMAPFUNC(FX::SEL_UPDATE, MainWindow::ID_NEW, MainWindow::onUpdEditable),
     FXMAPFUNC(FX::SEL_UPDATE, MainWindow::ID_OPEN, MainWindow::onUpdChosen),
+    FXMAPFUNC(FX::SEL_UPDATE, MainWindow::ID_PREVIEW, MainWindow::onUpdChosen),
     FXMAPFUNCS(FX::SEL_UPDATE, MainWindow::ID_DERIVE, MainWindow::ID_DELETE_INVOICE, MainWindow::onUpdChosenEditable),
 };
 
@@ -114,6 +116,8 @@ void MainWindow::makeInvoiceMenu(FX::FXMenuBar* bar) {
   FX::FXMenuPane* menu = addMenu(bar, gettext("&Számla"));
   new FXMenuCommand(menu, gettext("Ú&j számla\tCtrl+N\tÚj számla nyitása."), nullptr, this, ID_NEW);
   new FXMenuCommand(menu, gettext("&Megnyitás\tCtrl+O\tA kiválasztott számla megnyitása."), nullptr, this, ID_OPEN);
+  new FXMenuCommand(menu, gettext("&Nyomtatási kép\tCtrl+P\tA kiválasztott számla, ahogyan nyomtatásban megjelenik."),
+                    nullptr, this, ID_PREVIEW);
   new FX::FXMenuSeparator(menu);
   new FXMenuCommand(menu, gettext("&Helyesbítő számla\tCtrl+H\tÚj számla, amely a kiválasztottra hivatkozik."), nullptr,
                     this, ID_DERIVE);
@@ -298,6 +302,11 @@ long MainWindow::onCmdStorno(FX::FXObject*, FX::FXSelector, void*) {
 
 long MainWindow::onCmdDeleteInvoice(FX::FXObject*, FX::FXSelector, void*) {
   if (const int id = getChosen()) actions_.remove(id);
+  return 1;
+}
+
+long MainWindow::onCmdPreview(FX::FXObject*, FX::FXSelector, void*) {
+  if (const int id = getChosen()) actions_.preview(id);
   return 1;
 }
 

@@ -36,6 +36,7 @@ class MainWindow : public FX::FXMainWindow {
     ID_CLOSE_INVOICE,
     ID_STORNO,
     ID_DELETE_INVOICE,
+    ID_PREVIEW,
     ID_BACKUP,
     ID_REFRESH,
     ID_FIND,
@@ -74,6 +75,7 @@ class MainWindow : public FX::FXMainWindow {
   long onCmdCloseInvoice(FX::FXObject*, FX::FXSelector, void*);
   long onCmdStorno(FX::FXObject*, FX::FXSelector, void*);
   long onCmdDeleteInvoice(FX::FXObject*, FX::FXSelector, void*);
+  long onCmdPreview(FX::FXObject*, FX::FXSelector, void*);
   long onCmdBackup(FX::FXObject*, FX::FXSelector, void*);
   long onCmdSettings(FX::FXObject*, FX::FXSelector, void*);
   long onCmdAbout(FX::FXObject*, FX::FXSelector, void*);

@@ -21,11 +21,14 @@ Workspace::Workspace(Morvane& app, HostDatabase& database, const Plugin::PluginR
       plugins_(plugins),
       loader_(loader),
       repository_(database.handle(), plugins),
+      longWork_(app),
       editable_(editable) {
   database_.handle().setErrorSink(this);
+  database_.handle().setObserver(&longWork_);
 }
 
 Workspace::~Workspace() {
+  database_.handle().setObserver(nullptr);
   database_.handle().setErrorSink(&database_.errors());
   app_.removeChore(this, ID_SHOW_ERRORS);
 }

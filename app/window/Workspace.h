@@ -5,6 +5,7 @@
 #include <fx.h>
 
 #include "app/HostDatabase.h"
+#include "app/window/LongWork.h"
 #include "host/database/DatabaseError.h"
 #include "host/entity/InvoiceRepository.h"
 #include "host/plugin/PluginLoader.h"
@@ -39,6 +40,8 @@ class Workspace : public FX::FXObject, public Database::DatabaseErrorSink {
   const Plugin::PluginLoader& getLoader() const { return loader_; }
   InvoiceRepository& getRepository() { return repository_; }
   bool isEditable() const { return editable_; }
+  /// Watches what the database does, and whatever else is told to it.
+  LongWork& getLongWork() { return longWork_; }
 
   /// Windows enter and leave by themselves.
   void addWindow(OpenWindow* window);
@@ -67,6 +70,7 @@ class Workspace : public FX::FXObject, public Database::DatabaseErrorSink {
   const Plugin::PluginRegistry& plugins_;
   const Plugin::PluginLoader& loader_;
   InvoiceRepository repository_;
+  LongWork longWork_;
   bool editable_;
   std::vector<OpenWindow*> windows_;
   FX::FXObject* listener_ = nullptr;
