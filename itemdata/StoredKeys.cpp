@@ -51,14 +51,14 @@ StoredKeys::StoredKeys(MorvaneDatabase* db, const ItemDataList& list) {
 
 void StoredKeys::repair(ItemDataList& list) {
   if (!known_) return;
-  holdKeys(list, true, true);
-  holdKeys(list, false, true);
+  holdKeys(list, true);
+  holdKeys(list, false);
   takeFreeKeys(list);
 }
 
 void StoredKeys::assign(ItemDataList& list) {
   if (!known_) return;
-  holdKeys(list, true, false);
+  holdKeys(list, true);
   takeFreeKeys(list);
 }
 
@@ -71,7 +71,7 @@ bool StoredKeys::hasAll(const ItemDataList& list) {
   return true;
 }
 
-void StoredKeys::holdKeys(ItemDataList& list, bool live, bool dropFalse) {
+void StoredKeys::holdKeys(ItemDataList& list, bool live) {
   for (FXint i = 0; i < list.no(); ++i) {
     ItemDataEntry* entry = list[i];
     if (entry == nullptr || entry->pk == 0 || ItemDataEntry::isLive(entry) != live) continue;
@@ -79,7 +79,7 @@ void StoredKeys::holdKeys(ItemDataList& list, bool live, bool dropFalse) {
     const bool isTrue = found != stored_.end() && found->second.cell == keyOf(*entry) && !found->second.held;
     if (isTrue) {
       found->second.held = true;
-    } else if (dropFalse) {
+    } else {
       entry->pk = 0;
     }
   }

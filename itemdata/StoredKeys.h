@@ -26,8 +26,8 @@ class StoredKeys {
   /// cell holds, live ones first, is dropped, and a live cell without key takes a free one.
   void repair(ItemDataList& list);
 
-  /// After they have been written: a live cell without key takes that of its row. Should a row that was to be deleted
-  /// still stand beside it, it is the older one and stays with the marked cell.
+  /// After they have been written: a live cell whose row is gone loses its key, and one without key takes that of its
+  /// row. Should a row that was to be deleted still stand beside it, it is the older one and stays with the marked cell.
   void assign(ItemDataList& list);
 
   /// Whether, after assign, each live cell that a save writes has the key of its row.
@@ -40,7 +40,7 @@ class StoredKeys {
   };
   class Loader;
 
-  void holdKeys(ItemDataList& list, bool live, bool dropFalse);
+  void holdKeys(ItemDataList& list, bool live);
   void takeFreeKeys(ItemDataList& list);
 
   bool known_ = false;                                          // whether the table could be read

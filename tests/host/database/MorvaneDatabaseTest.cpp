@@ -132,6 +132,35 @@ TEST_F(MorvaneDatabaseTest, countsChangesAndKnowsTheLastKey) {
   EXPECT_EQ(database->lastInsertId(), 77);
   EXPECT_TRUE(database->run("insert into t (t_id) values (5000000000)"));
   EXPECT_EQ(database->lastInsertId(), 0);
+  EXPECT_TRUE(database->run("insert into t (t_id) values (-5000000000)"));
+  EXPECT_EQ(database->lastInsertId(), 0);
+}
+
+TEST_F(MorvaneDatabaseTest, switchesItsJournalAndKeepsIt) {
+  EXPECT_EQ(database.text("pragma journal_mode"), "delete");
+  EXPECT_TRUE(database->useWriteAheadJournal());
+  EXPECT_EQ(database.text("pragma journal_mode"), "wal");
+  EXPECT_TRUE(database->useWriteAheadJournal());
+}
+
+TEST_F(MorvaneDatabaseTest, keepsItsJournalWhenItCannotBeSwitched) {
+  const CollectingErrorSink sink(database.handle());
+  {
+    FileConnection other(database.path());
+    other.exec("begin immediate");
+    EXPECT_FALSE(database->useWriteAheadJournal());
+  }
+  EXPECT_TRUE(sink.errors().empty());
+  MorvaneDatabase closed;
+  EXPECT_FALSE(closed.useWriteAheadJournal());
+  EXPECT_EQ(closed.getFailures(), 0);
+  // Nobody else is in the way here: that the caller asks within a transaction is an error.
+  EXPECT_TRUE(database->run("begin"));
+  EXPECT_FALSE(database->useWriteAheadJournal());
+  EXPECT_EQ(sink.errors().size(), 1u);
+  EXPECT_TRUE(database->run("commit"));
+  EXPECT_EQ(database.text("pragma journal_mode"), "delete");
+  EXPECT_TRUE(database->useWriteAheadJournal());
 }
 
 // A misspelled column in double quotes would otherwise count as a text: "delete where "nmae"='nmae'" would hit all

@@ -61,6 +61,17 @@ TEST_F(ReadOnlyFileTest, isNoneWithoutAWriteAheadJournal) {
   EXPECT_FALSE(canOnlyBeReadAsItLies(directory.path().c_str()));
 }
 
+TEST_F(ReadOnlyFileTest, isNoneWithoutAHeader) {
+  const std::string header("SQLite format 3\0\x10\0", 18);
+  for (const std::string& content : {std::string(), header, header + "\2", header + "\1\2", header + "\2\1"}) {
+    directory.write("100% ?#.db", content);
+    ASSERT_EQ(chmod(path.c_str(), 0444), 0);
+    EXPECT_FALSE(isOne()) << content.size();
+  }
+  directory.write("100% ?#.db", header + "\2\2");
+  EXPECT_TRUE(isOne());
+}
+
 TEST_F(ReadOnlyFileTest, isNoneThatAnotherProgramHasOpen) {
   ASSERT_EQ(chmod(path.c_str(), 0444), 0);
   FileConnection other(path);

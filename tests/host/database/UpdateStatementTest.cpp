@@ -42,6 +42,24 @@ TEST_F(UpdateStatementTest, takesParametersOfTheConditionThatAreNoColumns) {
   EXPECT_EQ(database.text("select a from t where t_id=1"), "new");
 }
 
+TEST_F(UpdateStatementTest, doesWhatItShouldHoweverManyShapesThereAre) {
+  constexpr int kShapes = 300;
+  for (int round = 0; round < 2; ++round) {
+    database.exec("begin");
+    for (int shape = 1; shape <= kShapes; ++shape) {
+      UpdateStatement update(database.get(), "t", ("t_id=%t_id and " + std::to_string(shape) + ">0").c_str());
+      update.setInt("t_id", 2);
+      update.setInt(shape % 2 == 0 ? "a" : "b", round * kShapes + shape);
+      ASSERT_EQ(update.execute(nullptr, 1), 1) << shape;
+      ASSERT_EQ(database->changes(), 1) << shape;
+    }
+    database.exec("commit");
+    EXPECT_EQ(database.rows("select * from t"),
+              (Rows{{"1", "one", "1"},
+                    {"2", std::to_string((round + 1) * kShapes), std::to_string((round + 1) * kShapes - 1)}}));
+  }
+}
+
 TEST_F(UpdateStatementTest, succeedsWithoutMatchingRow) {
   UpdateStatement update(database.get(), "t", "t_id=%t_id");
   update.setInt("t_id", 3);
