@@ -33,10 +33,13 @@ class EntityPlugin : public PluginModule {
   virtual bool canHandle(const FX::FXMetaClass& meta) const = 0;
   /// Adds the entity's data below the element that stands for it.
   virtual int toXml(Entity* entity, XMLBuilder::Element* element) const = 0;
+  /// Reads such data back from a document. This host imports nothing and never asks; null.
   virtual void* getParser(const FX::FXMetaClass* meta, FX::FXDict& parsers) const;
+  /// Where its data stand among those of other plug-ins in an export.
   virtual int getXmlWeight() const;
   /// What is to be printed with the entity; empty for nothing.
   virtual FX::FXString toString(Entity* entity) const = 0;
+  /// The same for what is printed.
   virtual int getStringWeight() const;
 
  protected:

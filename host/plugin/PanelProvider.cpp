@@ -4,7 +4,7 @@ namespace Brontel::Plugin::PanelProvider {
 
 using FX::FXString;
 
-FXIMPLEMENT(Handler, FXObject, nullptr, 0)
+FXIMPLEMENT_ABSTRACT(Handler, FXObject, nullptr, 0)
 
 FX::FXIcon* Handler::getIcon16() const {
   return nullptr;
@@ -13,8 +13,6 @@ FX::FXIcon* Handler::getIcon16() const {
 FX::FXWindow* Handler::getPanel() const {
   return nullptr;
 }
-
-void Handler::createGUI(FX::FXComposite*) {}
 
 FXString Handler::getPanelName() const {
   return FXString();

@@ -26,8 +26,6 @@ class GoodsDataWindow : public PanelisedWindow {
   FX::FXbool close(FX::FXbool notify = FALSE) override;
 
   GoodsKind getKind() const { return kind_; }
-  /// The record as it was loaded or saved last.
-  const Goods& getRecord() const { return record_; }
   bool hasUnsavedChanges() const;
   /// Saves the record and the panels. False when that was not possible: the person has been told by a box, or by the
   /// database's error sink, and the window keeps everything. After a success the panels have to be built anew before
@@ -69,7 +67,7 @@ class GoodsDataWindow : public PanelisedWindow {
   FX::FXString title_;
   MorvaneDatabase* database_ = nullptr;              // not owned
   const Plugin::PluginRegistry* plugins_ = nullptr;  // not owned
-  Goods record_;
+  Goods record_;                                     // as it was loaded or saved last
   FX::FXString panelStateBefore_;
   bool isBuilt_ = false;
   bool isSaved_ = false;

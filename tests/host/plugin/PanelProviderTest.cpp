@@ -30,6 +30,11 @@ TEST(PanelProviderTest, handlerHasUsableDefaults) {
   EXPECT_TRUE(Handler::metaClass.isSubClassOf(&FX::FXObject::metaClass));
 }
 
+TEST(PanelProviderTest, aHandlerHasToBuildItsPanel) {
+  EXPECT_TRUE(std::is_abstract_v<Handler>);
+  EXPECT_FALSE(std::is_abstract_v<MinimalHandler>);
+}
+
 TEST(PanelProviderTest, pluginIsAModuleThatSubclassesComplete) {
   EXPECT_TRUE(Plugin::metaClass.isSubClassOf(&PluginModule::metaClass));
   EXPECT_TRUE(std::is_abstract_v<Plugin>);
