@@ -12,6 +12,16 @@ function(brontel_add_executable name)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
 endfunction()
 
+# brontel_add_test_with_long(NAME SOURCES...): as below; tests of suites named Long..., which take minutes, are labelled
+# so.
+function(brontel_add_test_with_long name)
+  brontel_add_executable(${name} ${ARGN})
+  gtest_discover_tests(${name} TEST_PREFIX ${name}. TEST_FILTER "-Long*" TEST_LIST ${name}_short
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+  gtest_discover_tests(${name} TEST_PREFIX ${name}. TEST_FILTER "Long*" TEST_LIST ${name}_long
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 600 LABELS long)
+endfunction()
+
 # brontel_add_test(NAME SOURCES...): a GoogleTest executable whose every test is a CTest of its own, run in a process of
 # its own, so that tests may run at the same time and a crash takes only one of them along.
 function(brontel_add_test name)

@@ -26,6 +26,7 @@ constexpr size_t kKept = 100000;
 // 0 when there is no such program.
 pid_t start(const std::vector<std::string>& arguments, int output) {
   std::vector<char*> words;
+  words.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
   words.push_back(nullptr);
   posix_spawn_file_actions_t actions;

@@ -42,7 +42,15 @@ PrinterDialog::PrinterDialog(FX::FXWindow* owner, const std::vector<FX::FXString
   const FX::FXString last = getApp()->reg().readStringEntry(kSection, "printer", "");
   const bool isThere = std::find(printers.begin(), printers.end(), last) != printers.end();
   printers_->setText(isThere ? last : usualPrinter());
-  printers_->setFocus();
+}
+
+void PrinterDialog::create() {
+  FXDialogBox::create();
+  // Not before it is on the display.
+  auto* field = dynamic_cast<FX::FXTextField*>(printers_->getFirst());
+  if (field == nullptr) return;
+  field->setFocus();
+  field->selectAll();
 }
 
 PrinterChoice PrinterDialog::getChoice() const {

@@ -13,6 +13,8 @@ class PrinterDialog : public FX::FXDialogBox {
  public:
   PrinterDialog(FX::FXWindow* owner, const std::vector<FX::FXString>& printers);
 
+  void create() override;
+
   /// What the person has chosen; to be remembered when they have accepted it.
   PrinterChoice getChoice() const;
   void remember() const;
