@@ -13,6 +13,7 @@
 #include "app/window/InvoiceEditForm.h"
 #include "app/window/InvoiceListFrame.h"
 #include "app/window/OpenWindow.h"
+#include "app/window/PageKeys.h"
 #include "app/window/RecordedDataFrame.h"
 #include "app/window/RowList.h"
 #include "app/window/WindowIcons.h"
@@ -232,6 +233,7 @@ void MainWindow::showPage(FXint page) {
 }
 
 void MainWindow::refreshPage() {
+  listenToKeysOf(*pages_, getPage());
   switch (getPage()) {
     case PAGE_INVOICES:
       return invoices_->refresh();

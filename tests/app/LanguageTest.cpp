@@ -74,3 +74,73 @@ TEST_F(LanguageTest, AnotherLanguageLeavesTheHungarianTexts) {
   environment["LANGUAGE"] = "yy";
   EXPECT_EQ(runProgram({"foo"}, environment).errors, kHungarian);
 }
+
+namespace {
+
+/// The catalogues that belong to the program.
+class BuiltLanguageTest : public AppTest {
+ protected:
+  static ProgramRun speak(const std::string& language, const Arguments& arguments) {
+    return runProgram(arguments, {{"LANGUAGE", language}, {"LC_ALL", "C.UTF-8"}});
+  }
+
+  static bool hasHungarianLetters(const std::string& text) {
+    for (const char* letter :
+         {"á", "é", "í", "ó", "ö", "ő", "ú", "ü", "ű", "Á", "É", "Í", "Ó", "Ö", "Ő", "Ú", "Ü", "Ű"})
+      if (text.find(letter) != std::string::npos) return true;
+    return false;
+  }
+
+  /// Every way to be refused without a database.
+  std::vector<Arguments> refusals() const {
+    const std::string nothing = directory.path("no/such/folder");
+    std::vector<Arguments> all{{"foo"},
+                               {"--foo"},
+                               {"--database"},
+                               {"list", "1"},
+                               {"export"},
+                               {"list", "-o", "x"},
+                               {"list", "--sample"},
+                               {"--database", nothing, "list"},
+                               {"--database", directory.path(), "list"},
+                               {"--plugins", nothing, "plugins"}};
+    return all;
+  }
+};
+
+}  // namespace
+
+TEST_F(BuiltLanguageTest, HelpIsInTheUsersLanguage) {
+  EXPECT_TRUE(speak("en", {"--help"}).output.starts_with("Usage: brontel-host "));
+  EXPECT_TRUE(speak("de", {"--help"}).output.starts_with("Aufruf: brontel-host "));
+  EXPECT_TRUE(speak("hu", {"--help"}).output.starts_with("Használat: brontel-host "));
+  EXPECT_FALSE(hasHungarianLetters(speak("en", {"--help"}).output));
+}
+
+TEST_F(BuiltLanguageTest, ErrorsAreInTheUsersLanguage) {
+  for (const Arguments& arguments : refusals()) {
+    const std::string hungarian = speak("hu", arguments).errors;
+    const std::string english = speak("en", arguments).errors;
+    const std::string german = speak("de", arguments).errors;
+    EXPECT_NE(hungarian, "brontel-host: \n");
+    EXPECT_NE(english, hungarian);
+    EXPECT_NE(german, hungarian);
+    EXPECT_NE(german, english);
+    EXPECT_FALSE(hasHungarianLetters(english)) << english;
+  }
+}
+
+TEST_F(BuiltLanguageTest, HungarianComesBeforeTheLanguagesThatFollow) {
+  const std::string hungarian = speak("hu", {"foo"}).errors;
+  EXPECT_EQ(hungarian, "brontel-host: Ismeretlen parancs: foo. A parancsok: brontel-host --help\n");
+  EXPECT_EQ(speak("hu:en:de", {"foo"}).errors, hungarian);
+  EXPECT_EQ(speak("fr:en", {"foo"}).errors, speak("en", {"foo"}).errors);
+}
+
+TEST_F(BuiltLanguageTest, ThePluginSpeaksTheSameLanguage) {
+  makeSample();
+  const std::string check = run({"check", "2"}, {{"LANGUAGE", "en"}}).output;
+  EXPECT_NE(check.find("Additional item data: The total quantity (1) is less"), std::string::npos) << check;
+  EXPECT_EQ(run({"plugins"}, {{"LANGUAGE", "de"}}).output,
+            "libBrontelPluginItemData.so\tWeitere Positionsdaten\t2013.01.02\n");
+}
