@@ -18,11 +18,13 @@ FXString variable(const char* name) {
   return value == nullptr ? FXString() : FXString(value);
 }
 
-// A folder by its way from the one that the program is in.
+// A folder by its way from the one that the program is in. Where the system does not tell, that is the one that the
+// program was configured for.
 path besideProgram(const char* folder) {
   std::error_code error;
   const path program = std::filesystem::read_symlink("/proc/self/exe", error);
-  return (program.parent_path() / folder).lexically_normal();
+  const path programFolder = error ? path(BRONTEL_PROGRAM_FOLDER) : program.parent_path();
+  return (programFolder / folder).lexically_normal();
 }
 
 // Where the program was installed, the folder of libraries may have another name than where it was built.

@@ -37,6 +37,8 @@ foreach(package IN LISTS CPACK_COMPONENTS_ALL)
   set(CPACK_DEBIAN_${key}_PACKAGE_SECTION misc)
 endforeach()
 
+# CPack would put the project's before each package's own.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -75,8 +75,8 @@ TEST_F(ConsumerTest, everyInstalledHeaderFindsWhatItIncludes) {
   const std::string include = tree.path("include/brontel");
   std::string source;
   for (const auto& entry : fs::recursive_directory_iterator(include)) {
-    if (entry.path().extension() == ".h")
-      source += "#include \"" + fs::relative(entry.path(), include).string() + "\"\n";
+    if (entry.path().extension() != ".h") continue;
+    source += "#include \"" + fs::relative(entry.path(), include).string() + "\"\n";
   }
   EXPECT_NE(source.find("\"host/plugin/PluginContainer.h\""), std::string::npos);
   const std::string file = tree.scratch("all.cpp");

@@ -21,8 +21,8 @@ void InstalledTree::move(const std::string& name) {
 std::vector<std::string> InstalledTree::files() const {
   std::vector<std::string> found;
   for (const auto& entry : fs::recursive_directory_iterator(prefix_)) {
-    if (!entry.is_directory())
-      found.push_back(fs::relative(entry.path().parent_path(), prefix_) / entry.path().filename());
+    if (entry.is_directory()) continue;
+    found.push_back(fs::relative(entry.path().parent_path(), prefix_) / entry.path().filename());
   }
   std::sort(found.begin(), found.end());
   return found;
