@@ -35,8 +35,10 @@ class ItemDataEntryDerivedTest : public ItemDataFixture {
     return left();
   }
 
-  std::string left() {
-    const std::unique_ptr<ItemDataEntry> cell(newCell(TYPE_QUANTITY, VARIABLE_QUANTITY, 1, "before", 99, &item));
+  std::string left() { return leftInCellOf("before"); }
+
+  std::string leftInCellOf(const char* before) {
+    const std::unique_ptr<ItemDataEntry> cell(newCell(TYPE_QUANTITY, VARIABLE_QUANTITY, 1, before, 99, &item));
     cell->load(database.get());
     return cell->value.text();
   }
@@ -238,4 +240,5 @@ TEST_F(ItemDataEntryDerivedTest, aQuantityOfNullStaysEmpty) {
 TEST_F(ItemDataEntryDerivedTest, withoutAStoredQuantityTheCellKeepsWhatItHolds) {
   take(STATUS_CLOSED, "4");
   EXPECT_EQ(left(), "before");
+  EXPECT_EQ(leftInCellOf("1.50"), "1.50");
 }

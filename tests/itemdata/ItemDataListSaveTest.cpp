@@ -121,6 +121,14 @@ TEST_F(ItemDataListSaveTest, aZeroOfAnotherItemDoesNotCount) {
   EXPECT_EQ(stored(10), Texts{"2/1=S1"});
 }
 
+TEST_F(ItemDataListSaveTest, aZeroOfNoItemDoesNotCount) {
+  item.setId(1);
+  list.append(newCell(TYPE_QUANTITY, VARIABLE_QUANTITY, 1, "0"));
+  add(TYPE_TEXT, 2, 1, "S1");
+  list.save(database.get());
+  EXPECT_EQ(stored(1), Texts{"2/1=S1"});
+}
+
 TEST_F(ItemDataListSaveTest, variableTwoIsWrittenWithoutAnyZero) {
   add(TYPE_TEXT, 2, 0, "per item");
   add(TYPE_TEXT, 2, 1, "per unit");

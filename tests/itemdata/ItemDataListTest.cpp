@@ -227,6 +227,7 @@ TEST_F(ItemDataListTest, tellsItsCellsOfAStatus) {
   }
   for (const unsigned int whenReferring : {101u, 201u, 401u}) {
     EXPECT_EQ(told(whenReferring, 5), 2u) << whenReferring;
+    EXPECT_EQ(told(whenReferring, 1), 2u) << whenReferring;
     EXPECT_EQ(told(whenReferring, 0), 0u) << whenReferring;
     EXPECT_EQ(told(whenReferring, -1), 0u) << whenReferring;
   }

@@ -152,6 +152,13 @@ TEST_F(RowTidyingTest, aMarkedPerItemCellTakesThePerItemCellsAlong) {
   EXPECT_EQ(list.rows, 1);
 }
 
+TEST_F(RowTidyingTest, perItemCellsAreNoRowToCountDown) {
+  add(list, TYPE_TEXT, 11, 0, "a", 1)->markForDelete(1);
+  EXPECT_EQ(list.rows, 0);
+  EXPECT_EQ(tidied(), (Cells{"11/0= marked"}));
+  EXPECT_EQ(list.rows, 0);
+}
+
 TEST_F(RowTidyingTest, emptySlotsDivideNothingButThemselves) {
   list.append(nullptr);
   addRow(list, 1, "5", "S1", "", 11);
