@@ -21,8 +21,9 @@ void changeKeys(FX::FXWindow& window, void (FX::FXWindow::*change)(FX::FXHotKey)
 
 void listenToKeysOf(const FX::FXTabBook& book, FX::FXint page) {
   // Tabs and pages take turns.
-  for (FX::FXint i = 1; FX::FXWindow* frame = book.childAtIndex(i); i += 2)
+  for (FX::FXint i = 1; FX::FXWindow* frame = book.childAtIndex(i); i += 2) {
     changeKeys(*frame, &FX::FXWindow::remHotKey);
+  }
   if (FX::FXWindow* shown = book.childAtIndex(2 * page + 1)) changeKeys(*shown, &FX::FXWindow::addHotKey);
 }
 
