@@ -15,7 +15,7 @@ constexpr double kHeadSpace = 12;
 
 // Columns, from the left.
 constexpr double kGap = 8;
-constexpr double kPosition = 34;
+constexpr double kPosition = 48;
 constexpr double kQuantity = 80;
 constexpr double kUnit = 60;
 constexpr double kPrice = 90;

@@ -213,8 +213,9 @@ void MainWindow::savePlace() {
 }
 
 FX::FXbool MainWindow::close(FX::FXbool notify) {
-  // A box that waits for an answer comes first.
-  if (getApp()->getModalWindow() != nullptr || !workspace_.closeWindows()) return FALSE;
+  // A box that waits for an answer comes first. One that is not shown any more waits for none.
+  const FX::FXWindow* box = getApp()->getModalWindow();
+  if ((box != nullptr && box->shown()) || !workspace_.closeWindows()) return FALSE;
   savePlace();
   return FXMainWindow::close(notify);
 }

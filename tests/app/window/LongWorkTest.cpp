@@ -1,3 +1,5 @@
+#include <csignal>
+
 #include "app/window/InvoiceActions.h"
 #include "app/window/LongWork.h"
 #include "app/window/ProgressWindow.h"
@@ -232,6 +234,19 @@ TEST_F(LongWorkTest, openingAnInvoiceThatTakesLongShowsIt) {
   EXPECT_EQ(newestForm().getGrid()->getNumRows(), 4);
   delete &newestForm();
   delete &window;
+}
+
+TEST_F(LongWorkTest, whoEndsTheProgramMeanwhileIsHeardAfterwards) {
+  openMain();
+  const auto countMainWindows = [this] { return descendantsOf<MainWindow>(application->getRootWindow()).size(); };
+  runStatements(120, 10ms);
+  ASSERT_NE(bar(), nullptr);
+  ASSERT_EQ(std::raise(SIGTERM), 0);
+  runStatements(50, 10ms);
+  EXPECT_EQ(countMainWindows(), 1u);
+  user.settle();
+  EXPECT_EQ(countMainWindows(), 0u);
+  EXPECT_EQ(bar(), nullptr);
 }
 
 TEST_F(LongWorkTest, theBarGoesWhenTheProgramEndsInTheMiddle) {

@@ -299,6 +299,7 @@ TEST_F(PrintPreviewTest, showsWhatThePrintingSystemComplainsOf) {
 
 TEST_F(PrintPreviewTest, opensFromTheListOfInvoices) {
   MainWindow& window = openMain();
+  window.showPage(MainWindow::PAGE_INVOICES);
   window.getInvoices()->getList()->setCurrentId(kComplete);
   bool wasThere = false;
   user.whenModal([&](FX::FXWindow& box) {
@@ -313,6 +314,7 @@ TEST_F(PrintPreviewTest, opensFromTheListOfInvoices) {
 
 TEST_F(PrintPreviewTest, showsWhatIsTypedInAnOpenFormButNotSavedYet) {
   MainWindow& window = openMain();
+  window.showPage(MainWindow::PAGE_INVOICES);
   window.getInvoices()->getList()->setCurrentId(kComplete);
   InvoiceEditForm& form = open(kComplete);
   form.getInvoice()->getItems()[0]->setName("Frissen átírt név");
