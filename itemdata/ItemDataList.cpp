@@ -1,6 +1,7 @@
 #include "itemdata/ItemDataList.h"
 
 #include <unordered_map>
+#include <vector>
 
 #include "host/entity/Invoice.h"
 #include "itemdata/Codes.h"
@@ -101,13 +102,20 @@ void ItemDataList::setStatus(MorvaneDatabase*, unsigned int status) {
 }
 
 void ItemDataList::addRows(int n) {
-  if (templateList == nullptr || firstRowIndex < 0 || templateList->firstRowIndex < 0) return;
+  if (n < 1 || templateList == nullptr || firstRowIndex < 0 || templateList->firstRowIndex < 0) return;
+  std::vector<const ItemDataEntry*> models;
+  for (FXint i = templateList->firstRowIndex; i < templateList->no(); ++i) {
+    if (templateList->at(i) != nullptr) models.push_back(templateList->at(i));
+  }
+  if (models.empty()) return;
+  FXint next = no();
+  // Grown once: cell by cell it would take minutes for thousands of rows.
+  no(next + n * static_cast<FXint>(models.size()));
   for (int added = 0; added < n; ++added) {
     ++rows;
-    for (FXint i = templateList->firstRowIndex; i < templateList->no(); ++i) {
-      if (templateList->at(i) == nullptr) continue;
-      appendClone(*templateList->at(i));
-      at(no() - 1)->row = rows;
+    for (const ItemDataEntry* model : models) {
+      at(next) = model->clone(owner_);
+      at(next++)->row = rows;
     }
   }
 }

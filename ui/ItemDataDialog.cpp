@@ -1,7 +1,6 @@
 #include "ui/ItemDataDialog.h"
 
 #include <algorithm>
-#include <vector>
 
 #include <fxkeys.h>
 #include <libintl.h>
@@ -112,24 +111,10 @@ void ItemDataDialog::createTable(FX::FXComposite* parent) {
   setHeight(kTableHeight);
   auto* frame = new FX::FXHorizontalFrame(parent, kFill | FX::FRAME_LINE, 0, 0, 0, 0, 0, 0, 0, 0, kPad, kPad);
   table_ = new UI::ItemDataTable(frame, this, ID_TABLE, kFill);
-  const FXint rowCount = countRows();
+  const FXint rowCount = list_->getRowNum();
   table_->setTableSize(rowCount, settings.columns);
   fillTable(rowCount);
   if (rowCount == 0) table_->handle(this, FXSEL(FX::SEL_COMMAND, UI::ItemDataTable::ID_ADD_ROW), nullptr);
-}
-
-/// The rows there are. The entries of one stand together; those that belong to no row are of variables that used to be
-/// recorded once per item.
-FXint ItemDataDialog::countRows() const {
-  FXint count = 0;
-  FXint last = 0;
-  for (FXint i = list_->no() - 1; i >= std::max(list_->firstRowIndex, 0); --i) {
-    const ItemDataEntry* entry = list_->at(i);
-    if (!ItemDataEntry::isLive(entry) || entry->row == 0 || entry->row == last) continue;
-    last = entry->row;
-    ++count;
-  }
-  return count;
 }
 
 void ItemDataDialog::fillTable(FXint rowCount) {
@@ -173,28 +158,17 @@ long ItemDataDialog::onInsertRows(FXObject*, FXSelector, void* range) {
 }
 
 void ItemDataDialog::addRows(FXint tableRow, FXint count) {
-  const ItemDataList* settings = list_ == nullptr ? nullptr : list_->templateList;
-  if (settings == nullptr || list_->firstRowIndex == -1 || settings->firstRowIndex == -1 || count < 1) return;
-  std::vector<const ItemDataEntry*> models;
-  for (FXint i = settings->firstRowIndex; i < settings->no(); ++i) {
-    if (settings->at(i) != nullptr) models.push_back(settings->at(i));
-  }
-  if (models.empty()) return;
-  const FXint width = static_cast<FXint>(models.size());
-  FXint next = list_->no();
-  // The sum is kept up and the list grows once: doing either for each of thousands of rows would take minutes.
+  if (list_ == nullptr || count < 1) return;
+  // Kept up from here on: asked for anew for each of thousands of rows, it would take minutes.
   FXDecimal sum = list_->getSumQuantity();
-  list_->no(next + count * width);
-  for (FXint row = 0; row < count; ++row, next += width) {
-    ++list_->rows;
-    for (FXint i = 0; i < width; ++i) {
-      list_->at(next + i) = models[i]->clone(list_->getOwner());
-      list_->at(next + i)->row = list_->rows;
-    }
-    ItemDataEntry* quantity = list_->at(next);
+  FXint first = list_->no();
+  list_->addRows(count);
+  const FXint width = (list_->no() - first) / count;
+  for (FXint row = 0; row < count && width > 0; ++row, first += width) {
+    ItemDataEntry* quantity = list_->at(first);
     if (quantity->value.empty()) quantity->value = (item_->getQuantity() - sum).toString();
     if (quantity->type == TYPE_QUANTITY) sum += FXDecimal(quantity->value, kQuantityPlaces);
-    showRow(tableRow + row, next, width);
+    showRow(tableRow + row, first, width);
   }
 }
 

@@ -61,7 +61,6 @@ class ItemDataDialog : public FX::FXDialogBox {
   void createTable(FX::FXComposite* parent);
   void fillTable(FX::FXint rowCount);
   void setHeader(FX::FXint index);
-  FX::FXint countRows() const;
   /// Makes the entries of new rows, which the table shows from that row on.
   void addRows(FX::FXint tableRow, FX::FXint count);
   void showRow(FX::FXint tableRow, FX::FXint first, FX::FXint count);
