@@ -46,16 +46,21 @@ FX::FXIcon* ItemDataContainer::getIcon16() {
   return icon16_;
 }
 
+// As get_plugin: running out of memory gives no plug-in. What was registered by then goes with the container.
 int ItemDataContainer::init() {
-  if (!Prototypes::isRegistered(this)) {
-    modules_.append(new ItemDataAssociationPanel::Plugin(this));
-    modules_.append(new InvoiceCheck(this));
-    modules_.append(new InvoiceItemMenu(this));
-    modules_.append(new InvoiceItemPlugin(this, kWeight, kWeight, 0, kWeight, kWeight));
-    Prototypes::add(this);
+  try {
+    if (!Prototypes::isRegistered(this)) {
+      modules_.append(new ItemDataAssociationPanel::Plugin(this));
+      modules_.append(new InvoiceCheck(this));
+      modules_.append(new InvoiceItemMenu(this));
+      modules_.append(new InvoiceItemPlugin(this, kWeight, kWeight, 0, kWeight, kWeight));
+      Prototypes::add(this);
+    }
+    if (getApp() != nullptr) Model::initDB(getApp()->getDB());
+    return 1;
+  } catch (...) {
+    return 0;
   }
-  if (getApp() != nullptr) Model::initDB(getApp()->getDB());
-  return 1;
 }
 
 long ItemDataContainer::onSettings(FX::FXObject*, FX::FXSelector, void*) {

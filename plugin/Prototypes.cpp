@@ -1,5 +1,7 @@
 #include "plugin/Prototypes.h"
 
+#include <algorithm>
+
 #include "itemdata/ItemDataComboEntry.h"
 #include "itemdata/ItemDataDateEntry.h"
 #include "itemdata/ItemDataPluginList.h"
@@ -56,7 +58,7 @@ void remove(const ItemDataContainer* container) {
   if (registrations == nullptr) {
     deletePrototypes(0, plugins.no());
   } else if (own != nullptr) {
-    deletePrototypes(own->first, own->first + kKinds);
+    deletePrototypes(own->first, std::min(own->first + kKinds, plugins.no()));
   }
   delete own;
 }
