@@ -44,6 +44,7 @@ set(BRONTEL_PUBLIC_HEADERS
   host/ui/GoodsDataWindow.h
   host/ui/InvoiceForm.h
   host/ui/InvoiceItemTable.h
+  host/ui/KeyboardMenu.h
   host/ui/Morvane.h
   host/ui/PanelisedWindow.h
   host/ui/PixelIcon.h

@@ -1,12 +1,13 @@
 #include <memory>
 
+#include <fxkeys.h>
 #include <gtest/gtest.h>
 
 #include "host/ui/DBTable.h"
 #include "host/ui/PluginSettingsDialogBox.h"
 #include "tests/host/plugin/TestContainer.h"
 #include "tests/host/ui/Deferred.h"
-#include "tests/support/TestApplication.h"
+#include "tests/support/DialogUser.h"
 
 using Brontel::DBTable;
 using Brontel::Plugin::UI::PluginSettingsDialogBox;
@@ -116,4 +117,26 @@ TEST_F(PluginSettingsDialogBoxTest, offersNewRowAndDeleteOverItsTable) {
   EXPECT_EQ(FXSELID(deleteSelector), static_cast<FX::FXuint>(PluginSettingsDialogBox::ID_DELETE));
   EXPECT_EQ(table->getNumRows(), 1);
   EXPECT_TRUE(table->isNewRow(0));
+}
+
+TEST_F(PluginSettingsDialogBoxTest, itsMenuIsUsedByKeyboardToo) {
+  DialogUser user(application);
+  PluginSettingsDialogBox dialog(&container, application.get());
+  DBTable* table = addTable(dialog);
+  table->setLayoutHints(FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y);
+  table->appendNewRow();
+  dialog.resize(400, 300);
+  dialog.create();
+  dialog.show(FX::PLACEMENT_SCREEN);
+  user.giveKeyboardTo(&dialog);
+  user.whenModal([&user](FX::FXWindow&) {
+    user.key(FX::KEY_Down);
+    user.key(FX::KEY_Return);
+  });
+  user.clickCell(table, 0, 0, 3);
+  EXPECT_EQ(user.scriptsLeft(), 0u);
+  EXPECT_EQ(table->getNumRows(), 2);
+  // The dialog has the keyboard again.
+  user.key(FX::KEY_Insert);
+  EXPECT_EQ(table->getNumRows(), 3);
 }
