@@ -9,6 +9,7 @@
 #include "app/Paths.h"
 #include "app/PluginStart.h"
 #include "app/Translation.h"
+#include "app/window/Dialogs.h"
 #include "app/window/FoxTexts.h"
 #include "app/window/MainWindow.h"
 #include "app/window/Workspace.h"
@@ -37,9 +38,9 @@ int WindowRun::run(char* program) {
         gettext("Nincs elérhető képernyő (DISPLAY). Parancsokkal e nélkül is használható: brontel-host --help"));
   }
   if (!database_.open(findDatabase(line_.getDatabase()), HostDatabase::Use::Create)) {
-    return report(database_.getError());
+    return refuse(database_.getError());
   }
-  if (!loadPlugins()) return report(database_.describeError());
+  if (!loadPlugins()) return refuse(database_.describeError());
   int code = 0;
   {
     Workspace workspace(app_, database_, registry_, loader_, editable_);
@@ -63,6 +64,14 @@ bool WindowRun::openDisplay(char* program) {
   // Without a name the toolkit would try one of its own, which may be somebody else's screen.
   const char* display = std::getenv("DISPLAY");
   return display != nullptr && *display != '\0' && app_.openDisplay(display);
+}
+
+// Who has started the program by a click does not see what it writes.
+int WindowRun::refuse(const FXString& error) {
+  const int code = report(error);
+  app_.create();
+  Dialogs::showError(app_.getRootWindow(), error);
+  return code;
 }
 
 // They have gone by themselves unless something else than closing the main window has ended the program. With one may

@@ -27,6 +27,7 @@ class WindowRun {
 
  private:
   bool openDisplay(char* program);
+  int refuse(const FX::FXString& error);
   void deleteWindows();
   bool loadPlugins();
 

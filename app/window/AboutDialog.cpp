@@ -1,5 +1,7 @@
 #include "app/window/AboutDialog.h"
 
+#include <algorithm>
+
 #include <libintl.h>
 
 #include "app/window/Workspace.h"
@@ -22,7 +24,8 @@ constexpr FX::FXint kTextWidth = 620;
 
 // In a label, a single "&" marks a key, and a tab begins the tip.
 FXString labelText(const FX::FXApp* app, const FXString& text) {
-  FXString label = wrapped(text, *app->getNormalFont(), scaledToFont(app, kTextWidth)).trim();
+  const FX::FXint width = std::min(scaledToFont(app, kTextWidth), app->getRootWindow()->getWidth() * 7 / 8);
+  FXString label = wrapped(text, *app->getNormalFont(), width).trim();
   return label.substitute("&", "&&").substitute('\t', ' ');
 }
 

@@ -14,6 +14,8 @@ using FX::FXuint;
 
 namespace {
 
+constexpr FX::FXint kFileWidth = 560;
+constexpr FX::FXint kFileHeight = 360;
 constexpr FX::FXint kLongestText = 400;
 
 FXuint show(FX::FXWindow* owner, FXuint (*box)(FX::FXWindow*, FXuint, const FX::FXchar*, const FX::FXchar*, ...),
@@ -43,9 +45,20 @@ Answer askToSave(FX::FXWindow* owner, const FXString& question) {
   return answer == FX::MBOX_CLICKED_NO ? Answer::No : Answer::Cancel;
 }
 
+FXString askForFile(FX::FXWindow* owner, const FXString& title, const FXString& suggestion, const FXString& patterns) {
+  FX::FXFileDialog dialog(owner, title);
+  dialog.setSelectMode(FX::SELECTFILE_ANY);
+  dialog.setFilename(suggestion);
+  dialog.setPatternList(patterns);
+  // The toolkit remembers the size that somebody has given it.
+  const bool isRemembered = dialog.getApp()->reg().existingEntry("File Dialog", "width") != 0;
+  if (!isRemembered) resizeToFont(dialog, kFileWidth, kFileHeight);
+  return dialog.execute() != 0 ? dialog.getFilename() : FXString();
+}
+
 FXString askForNewFile(FX::FXWindow* owner, const FXString& title, const FXString& suggestion,
                        const FXString& patterns) {
-  const FXString file = FX::FXFileDialog::getSaveFilename(owner, title, suggestion, patterns);
+  const FXString file = askForFile(owner, title, suggestion, patterns);
   if (file.empty() || !FX::FXStat::exists(file)) return file;
   const FXString question = fillIn(gettext("Ez a fájl már létezik:\n%s\n\nFelülírja?"), {file});
   return confirm(owner, title, question) ? file : FXString();

@@ -16,6 +16,9 @@ enum class Answer { Yes, No, Cancel };
 /// Whether unsaved changes are to be saved. Closing the box is a cancel.
 Answer askToSave(FX::FXWindow* owner, const FX::FXString& question);
 
+/// The name of a file to write, or empty when the person changed their mind.
+FX::FXString askForFile(FX::FXWindow* owner, const FX::FXString& title, const FX::FXString& suggestion,
+                        const FX::FXString& patterns);
 /// The name of a new file to write, or empty when the person changed their mind. An existing file is asked
 /// about first.
 FX::FXString askForNewFile(FX::FXWindow* owner, const FX::FXString& title, const FX::FXString& suggestion,

@@ -10,6 +10,7 @@
 #include "app/window/Headers.h"
 #include "app/window/Workspace.h"
 #include "host/entity/GoodsRepository.h"
+#include "host/ui/KeyboardMenu.h"
 #include "host/ui/WaitCursor.h"
 
 namespace Brontel::App {
@@ -184,7 +185,7 @@ long GoodsListFrame::onMenu(FX::FXObject*, FX::FXSelector, void* ptr) {
     list_->setCurrentItem(line);
     list_->selectItem(line);
   }
-  FX::FXMenuPane pane(getShell());
+  KeyboardMenu pane(getShell());
   new FX::FXMenuCommand(&pane, gettext("Ú&j..."), workspace_->getApp().getNewRowIcon(), this, ID_NEW);
   new FX::FXMenuCommand(&pane, gettext("S&zerkesztés..."), nullptr, this, ID_EDIT);
   pane.create();

@@ -75,8 +75,7 @@ GoodsDataWindow* findWindow(const Workspace& workspace, GoodsKind kind, int id) 
 
 GoodsDataWindow* openGoodsWindow(Workspace& workspace, FX::FXWindow* owner, GoodsKind kind, int id) {
   if (GoodsDataWindow* there = findWindow(workspace, kind, id)) {
-    there->raise();
-    there->setFocus();
+    dynamic_cast<OpenWindow*>(there)->bringForward();
     return there;
   }
   GoodsDataWindow* window = makeWindow(workspace, kind);

@@ -28,8 +28,7 @@ InvoiceEditForm* InvoiceActions::findForm(int id) const {
 
 InvoiceEditForm* InvoiceActions::open(int id) {
   if (InvoiceEditForm* form = findForm(id)) {
-    form->raise();
-    form->setFocus();
+    form->bringForward();
     return form;
   }
   const WaitCursor wait(&workspace_.getApp());
@@ -79,7 +78,7 @@ InvoiceEditForm* InvoiceActions::saveAndOpen(std::unique_ptr<Invoice> invoice, c
 
 bool InvoiceActions::preview(int id) {
   if (InvoiceEditForm* form = findForm(id)) {
-    form->raise();
+    form->bringForward();
     form->handle(owner_, FXSEL(FX::SEL_COMMAND, InvoiceEditForm::ID_PREVIEW), nullptr);
     return true;
   }
@@ -93,7 +92,7 @@ bool InvoiceActions::closeInvoice(int id) {
   InvoiceEditForm* form = findForm(id);
   if (form == nullptr) form = open(id);
   if (form == nullptr) return false;
-  form->raise();
+  form->bringForward();
   form->handle(owner_, FXSEL(FX::SEL_COMMAND, InvoiceEditForm::ID_CLOSE_INVOICE), nullptr);
   return form->getInvoice()->isStatusClosed();
 }

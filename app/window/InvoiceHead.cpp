@@ -41,7 +41,8 @@ InvoiceHead::InvoiceHead(FX::FXComposite* parent, FX::FXObject* receiver, FX::FX
   partner_ = addField(gettext("&Partner:"), 16, receiver, sel);
   date_ = addField(gettext("&Kelt:"), 11, receiver, sel);
   addLabel(gettext("T&ípus:"));
-  type_ = new FX::FXListBox(this, receiver, sel, FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_CENTER_Y);
+  type_ = new FX::FXListBox(this, receiver, sel,
+                            FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_CENTER_Y | FX::LAYOUT_FILL_COLUMN);
   addLabel(gettext("Állapot:"));
   status_ = addLabel(FXString());
 }

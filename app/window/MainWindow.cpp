@@ -315,8 +315,8 @@ long MainWindow::onCmdPreview(FX::FXObject*, FX::FXSelector, void*) {
 
 long MainWindow::onCmdBackup(FX::FXObject*, FX::FXSelector, void*) {
   const FXString title = gettext("Biztonsági mentés");
-  const FXString file = FX::FXFileDialog::getSaveFilename(this, title, "brontel-" + today() + ".db",
-                                                          gettext("Adatbázisok (*.db)\nMinden fájl (*)"));
+  const FXString file =
+      Dialogs::askForFile(this, title, "brontel-" + today() + ".db", gettext("Adatbázisok (*.db)\nMinden fájl (*)"));
   if (file.empty()) return 1;
   FXString error;
   {

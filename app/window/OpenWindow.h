@@ -17,6 +17,14 @@ class OpenWindow {
   /// and answers false when the person would rather stay.
   virtual FX::FXTopWindow* getWindow() = 0;
 
+  /// Gives it the keyboard, in front of all others and out of the task bar.
+  void bringForward() {
+    FX::FXTopWindow* window = getWindow();
+    if (window->isMinimized()) window->restore();
+    window->raise();
+    window->setFocus();
+  }
+
   /// Whether closing it now would lose anything, text in an open editor included.
   virtual bool hasUnsavedChanges() = 0;
   /// Saves what was typed. False when that failed; the person has been told and the window keeps everything.

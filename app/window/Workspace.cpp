@@ -45,9 +45,9 @@ void Workspace::removeWindow(OpenWindow* window) {
 
 bool Workspace::closeWindows() {
   while (!windows_.empty()) {
-    FX::FXTopWindow* window = windows_.back()->getWindow();
-    window->raise();
-    if (!window->close(TRUE)) return false;
+    // What is asked is asked about this one.
+    windows_.back()->bringForward();
+    if (!windows_.back()->getWindow()->close(TRUE)) return false;
   }
   return true;
 }

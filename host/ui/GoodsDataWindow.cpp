@@ -134,8 +134,9 @@ void GoodsDataWindow::buildPanels() {
 FXTextField* GoodsDataWindow::addField(FX::FXComposite* parent, const char* label, int columns) {
   new FX::FXLabel(parent, label, nullptr, FX::LABEL_NORMAL | FX::LAYOUT_CENTER_Y);
   // Enter in a field is as good as OK.
-  return new FXTextField(parent, columns, this, ID_OK,
-                         FX::TEXTFIELD_NORMAL | FX::TEXTFIELD_ENTER_ONLY | FX::LAYOUT_CENTER_Y);
+  return new FXTextField(
+      parent, columns, this, ID_OK,
+      FX::TEXTFIELD_NORMAL | FX::TEXTFIELD_ENTER_ONLY | FX::LAYOUT_CENTER_Y | FX::LAYOUT_FILL_COLUMN);
 }
 
 void GoodsDataWindow::showRecord() {

@@ -90,7 +90,8 @@ void PluginSettingsDialogBox::buildFoot(const Morvane* app) {
   constexpr FX::FXuint kBottom = FX::LAYOUT_SIDE_BOTTOM | FX::LAYOUT_FILL_X;
   constexpr FX::FXuint kRowButton = FX::BUTTON_NORMAL | FX::ICON_BEFORE_TEXT;
   constexpr FX::FXuint kEndButton = FX::BUTTON_NORMAL | FX::LAYOUT_RIGHT;
-  auto* buttons = new FX::FXHorizontalFrame(this, kBottom);
+  // Takes a second row where the letters are too big for one.
+  auto* buttons = new FX::FXToolBar(this, kBottom, 0, 0, 0, 0, 2, 2, 2, 2);
   new FX::FXHorizontalSeparator(this, FX::SEPARATOR_GROOVE | kBottom);
   new FX::FXButton(buttons, gettext("Új &sor\tÚj sor (Ins)"), app == nullptr ? nullptr : app->getNewRowIcon(), this,
                    ID_NEW_ROW, kRowButton, 0, 0, 0, 0, 6, 6, 2, 2);

@@ -24,6 +24,7 @@ std::string Journey::output(const std::vector<std::string>& arguments) const {
 // Those that fontconfig keeps until a process ends.
 void Journey::ignoreCaches(ChildProcess& process) const {
   const std::string file = suppressions_.write("suppressions", "leak:libfontconfig\n");
+  suppressions_.share();
   process.setEnvironment("LSAN_OPTIONS", "print_suppressions=0:suppressions=" + file);
 }
 
@@ -57,12 +58,16 @@ void Journey::expectEnd() {
   program.reset();
 }
 
-void Journey::expectRefused(const std::string& error) {
-  ChildProcess run(commandLine({}));
-  ignoreCaches(run);
-  EXPECT_EQ(run.run(), 2);
-  EXPECT_EQ(run.getErrors(), "brontel-host: " + error + "\n");
-  EXPECT_EQ(run.getOutput(), "");
+void Journey::expectRefused(const std::vector<std::string>& arguments, const std::string& error) {
+  startWith(arguments);
+  ASSERT_NE(use("Hiba"), 0u) << error;
+  EXPECT_EQ(windows.titles(), std::vector<std::string>{"Hiba"});
+  events.key(FX::KEY_Return);
+  EXPECT_EQ(program->wait(), 2);
+  EXPECT_FALSE(program->isTimedOut());
+  EXPECT_EQ(program->getErrors(), "brontel-host: " + error + "\n");
+  EXPECT_EQ(program->getOutput(), "");
+  program.reset();
 }
 
 unsigned long Journey::use(const std::string& title) {

@@ -31,8 +31,9 @@ class Journey : public ::testing::Test {
   void quit();
   /// Expects that the running program ends by itself like that.
   void expectEnd();
-  /// Starts the program without a command and expects that it says that line instead of opening.
-  void expectRefused(const std::string& error);
+  /// Starts the program and expects that it says that in a box and on standard error instead of opening.
+  void expectRefused(const std::vector<std::string>& arguments, const std::string& error);
+  void expectRefused(const std::string& error) { expectRefused(commandLine({}), error); }
 
   /// Waits for a window of that title, gives it the keyboard and returns it.
   unsigned long use(const std::string& title);

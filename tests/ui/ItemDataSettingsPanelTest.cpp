@@ -205,10 +205,22 @@ TEST_F(ItemDataSettingsPanelTest, cancelWritesNothing) {
   const std::string before = database.dump();
   ItemDataSettingsPanel panel(&container, application.get());
   panel.resize(600, 400);
-  user.run([&] { EXPECT_EQ(panel.execute(FX::PLACEMENT_CURSOR), 0u); }, {[&](FXWindow* dialog) {
-             user.giveKeyboardTo(dialog);
-             panel.getTable()->setStoredValue(0, 0, "x");
-             user.key(FX::KEY_Escape);
+  const auto change = [&](FXWindow* dialog) {
+    user.giveKeyboardTo(dialog);
+    panel.getTable()->setStoredValue(0, 0, "x");
+  };
+  const auto leave = [](FXWindow* box) { answer(box, FX::FXMessageBox::ID_CLICKED_YES); };
+  const auto execute = [&] { EXPECT_EQ(panel.execute(FX::PLACEMENT_CURSOR), 0u); };
+  user.run(execute, {[&](FXWindow* dialog) {
+                       change(dialog);
+                       user.key(FX::KEY_Escape);
+                     },
+                     leave});
+  EXPECT_EQ(database.dump(), before);
+  // The button says itself that nothing is wanted.
+  user.run(execute, {[&](FXWindow* dialog) {
+             change(dialog);
+             dialog->handle(dialog, FXSEL(FX::SEL_COMMAND, FX::FXDialogBox::ID_CANCEL), nullptr);
            }});
   EXPECT_EQ(database.dump(), before);
 }
