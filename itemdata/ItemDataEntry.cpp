@@ -1,7 +1,5 @@
 #include "itemdata/ItemDataEntry.h"
 
-#include <memory>
-
 #include <libintl.h>
 
 #include "host/database/DataBaseValueLoader.h"
@@ -52,20 +50,23 @@ int ItemDataEntry::save(MorvaneDatabase* db) {
     statement.execute(nullptr, 1);
     return 0;
   }
-  std::unique_ptr<Statement> statement;
   if (pk == 0) {
-    statement = std::make_unique<InsertStatement>(db, "t_invoiceitemdata");
+    InsertStatement statement(db, "t_invoiceitemdata");
+    write(statement);
   } else {
-    statement =
-        std::make_unique<UpdateStatement>(db, "t_invoiceitemdata", "t_invoiceitemdata_id=%t_invoiceitemdata_id");
-    statement->setInt("t_invoiceitemdata_id", pk);
+    UpdateStatement statement(db, "t_invoiceitemdata", "t_invoiceitemdata_id=%t_invoiceitemdata_id");
+    statement.setInt("t_invoiceitemdata_id", pk);
+    write(statement);
   }
-  if (itemvariable != VARIABLE_NONE) statement->setInt("t_itemvariable_1", itemvariable);
-  statement->setInt("t_invoiceitem_1", owner_->getId());
-  statement->setString("value", getValue());
-  statement->setInt("row", row);
-  statement->execute(nullptr, 1);
   return 0;
+}
+
+void ItemDataEntry::write(Statement& statement) const {
+  if (itemvariable != VARIABLE_NONE) statement.setInt("t_itemvariable_1", itemvariable);
+  statement.setInt("t_invoiceitem_1", owner_->getId());
+  statement.setString("value", getValue());
+  statement.setInt("row", row);
+  statement.execute(nullptr, 1);
 }
 
 int ItemDataEntry::load(MorvaneDatabase* db) {
@@ -136,9 +137,14 @@ FXString ItemDataEntry::getValue() const {
 
 void ItemDataEntry::toXml(XMLBuilder::Element* parent) const {
   if (parent == nullptr) return;
-  XMLBuilder::Element* element = parent->createElement(kXmlName, kXmlNamespace);
-  element->setAttribute("row", FX::FXStringVal(row), FXString());
-  element->setAttribute("name", name, FXString());
+  // Made once, since there are thousands of cells.
+  static const FXString kElement(kXmlName);
+  static const FXString kNamespace(kXmlNamespace);
+  static const FXString kRow("row");
+  static const FXString kName("name");
+  XMLBuilder::Element* element = parent->createElement(kElement, kNamespace);
+  element->setAttribute(kRow, FX::FXStringVal(row), FXString());
+  element->setAttribute(kName, name, FXString());
   element->setText(value);
 }
 

@@ -8,6 +8,7 @@
 #include "host/message/ListOfMessage.h"
 
 class MorvaneDatabase;
+class Statement;
 
 namespace XMLBuilder {
 class Element;
@@ -84,6 +85,9 @@ class ItemDataEntry : public EntityMiscData {
 
  private:
   class DBVL;
+
+  /// Binds what is stored of the cell and runs the statement.
+  void write(Statement& statement) const;
 };
 
 /// Whether cells have to be read from the item that this one was made from: it is new, in derived mode and names a

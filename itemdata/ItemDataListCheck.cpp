@@ -1,5 +1,7 @@
 // Quantities and validation of ItemDataList.
 
+#include <typeinfo>
+
 #include <libintl.h>
 
 #include "host/entity/Invoice.h"
@@ -7,6 +9,7 @@
 #include "itemdata/CheckMessage.h"
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataList.h"
+#include "itemdata/ItemDataStringEntry.h"
 #include "itemdata/RowTidying.h"
 
 namespace Brontel::Plugin::ItemData {
@@ -14,6 +17,16 @@ namespace Brontel::Plugin::ItemData {
 using FX::FXint;
 using FX::FXString;
 using FXExt::FXDecimal;
+
+namespace {
+
+// A text cell gives its value as it stands, of which no copy is needed.
+FXDecimal quantityOf(const ItemDataEntry& entry) {
+  if (typeid(entry) == typeid(ItemDataStringEntry)) return FXDecimal(entry.value, kQuantityPlaces);
+  return FXDecimal(entry.getValue(), kQuantityPlaces);
+}
+
+}  // namespace
 
 int ItemDataList::getRowNum() const {
   if (firstRowIndex < 0) return 0;
@@ -39,7 +52,7 @@ FXDecimal ItemDataList::getQuantityForRow(int row) const {
   for (FXint i = no() - 1; i >= 0; --i) {
     const ItemDataEntry* entry = at(i);
     if (ItemDataEntry::isLive(entry) && entry->type == TYPE_QUANTITY && entry->row == row) {
-      return FXDecimal(entry->getValue(), kQuantityPlaces);
+      return quantityOf(*entry);
     }
   }
   return FXDecimal(0, 0, kQuantityPlaces);
@@ -50,7 +63,7 @@ FXDecimal ItemDataList::getSumQuantity() const {
   for (FXint i = no() - 1; i >= 0; --i) {
     const ItemDataEntry* entry = at(i);
     if (ItemDataEntry::isLive(entry) && entry->type == TYPE_QUANTITY) {
-      sum += FXDecimal(entry->getValue(), kQuantityPlaces);
+      sum += quantityOf(*entry);
     }
   }
   return sum;

@@ -1,5 +1,7 @@
 #include "itemdata/StoredKeys.h"
 
+#include <algorithm>
+
 #include "host/database/DataBaseValueLoader.h"
 #include "host/database/IntegerText.h"
 #include "host/database/MorvaneDatabase.h"
@@ -20,11 +22,7 @@ class StoredKeys::Loader : public DataBaseValueLoader {
     if (column == 3) keys_.readable_ = keys_.readable_ && toInt(value) != 0;
     if (column == 0) key_ = toInt(value);
     if (column == 1) variable_ = toInt(value);  // NULL is VARIABLE_NONE
-    if (column == 2) {
-      const CellKey cell = cellKey(variable_, toInt(value));
-      keys_.stored_.emplace(key_, Stored{cell, false});
-      keys_.keysOf_[cell].push_back(key_);
-    }
+    if (column == 2) keys_.stored_.push_back({key_, cellKey(variable_, toInt(value)), false});
     return DataBaseValueLoader::processValue(column, name, value);
   }
 
@@ -45,6 +43,7 @@ StoredKeys::StoredKeys(MorvaneDatabase* db, const ItemDataList& list) {
   statement.setInt("t_invoiceitem_1", list.getOwner()->getId());
   Loader loader(*this);
   known_ = statement.execute(&loader, 1) != 0;
+  end_ = stored_.size();
   // Written back it would be another row, another key or a shorter text.
   if (!readable_) db->fail(Database::ErrorKind::Damaged, "a recorded value holds what no program of this kind stores");
 }
@@ -75,10 +74,10 @@ void StoredKeys::holdKeys(ItemDataList& list, bool live) {
   for (FXint i = 0; i < list.no(); ++i) {
     ItemDataEntry* entry = list[i];
     if (entry == nullptr || entry->pk == 0 || ItemDataEntry::isLive(entry) != live) continue;
-    const auto found = stored_.find(entry->pk);
-    const bool isTrue = found != stored_.end() && found->second.cell == keyOf(*entry) && !found->second.held;
+    Stored* found = find(entry->pk);
+    const bool isTrue = found != nullptr && found->cell == keyOf(*entry) && !found->held;
     if (isTrue) {
-      found->second.held = true;
+      found->held = true;
     } else {
       entry->pk = 0;
     }
@@ -91,14 +90,36 @@ void StoredKeys::takeFreeKeys(ItemDataList& list) {
     ItemDataEntry* entry = list[i];
     // What is never written has no row of its own.
     if (!ItemDataEntry::isLive(entry) || entry->pk != 0 || entry->getValue() == "0") continue;
-    const auto found = keysOf_.find(keyOf(*entry));
-    if (found == keysOf_.end()) continue;
-    std::vector<FXint>& keys = found->second;
-    while (!keys.empty() && stored_[keys.back()].held) keys.pop_back();
-    if (keys.empty()) continue;
-    entry->pk = keys.back();
-    stored_[entry->pk].held = true;
+    Stored* row = newestFree(keyOf(*entry));
+    if (row == nullptr) continue;
+    entry->pk = row->key;
+    row->held = true;
   }
+}
+
+StoredKeys::Stored* StoredKeys::find(FXint key) {
+  if (next_ < stored_.size() && stored_[next_].key == key) return &stored_[next_++];
+  const auto found = std::lower_bound(stored_.begin(), stored_.end(), key,
+                                      [](const Stored& row, FXint wanted) { return row.key < wanted; });
+  if (found == stored_.end() || found->key != key) return nullptr;
+  next_ = static_cast<size_t>(found - stored_.begin()) + 1;
+  return &*found;
+}
+
+StoredKeys::Stored* StoredKeys::newestFree(CellKey cell) {
+  while (end_ > 0 && stored_[end_ - 1].held) --end_;
+  if (end_ > 0 && stored_[end_ - 1].cell == cell) return &stored_[end_ - 1];
+  if (!sorted_) sortByCell();
+  const auto found = rowsOf_.find(cell);
+  if (found == rowsOf_.end()) return nullptr;
+  std::vector<size_t>& rows = found->second;
+  while (!rows.empty() && stored_[rows.back()].held) rows.pop_back();
+  return rows.empty() ? nullptr : &stored_[rows.back()];
+}
+
+void StoredKeys::sortByCell() {
+  sorted_ = true;
+  for (size_t i = 0; i < stored_.size(); ++i) rowsOf_[stored_[i].cell].push_back(i);
 }
 
 }  // namespace Brontel::Plugin::ItemData

@@ -27,7 +27,8 @@ class StoredKeys {
   void repair(ItemDataList& list);
 
   /// After they have been written: a live cell whose row is gone loses its key, and one without key takes that of its
-  /// row. Should a row that was to be deleted still stand beside it, it is the older one and stays with the marked cell.
+  /// row. Should a row that was to be deleted still stand beside it, it is the older one and stays with the marked
+  /// cell.
   void assign(ItemDataList& list);
 
   /// Whether, after assign, each live cell that a save writes has the key of its row.
@@ -35,6 +36,7 @@ class StoredKeys {
 
  private:
   struct Stored {
+    FX::FXint key = 0;
     CellKey cell = 0;
     bool held = false;
   };
@@ -42,11 +44,17 @@ class StoredKeys {
 
   void holdKeys(ItemDataList& list, bool live);
   void takeFreeKeys(ItemDataList& list);
+  Stored* find(FX::FXint key);
+  Stored* newestFree(CellKey cell);
+  void sortByCell();
 
-  bool known_ = false;                                          // whether the table could be read
-  bool readable_ = true;                                        // whether a cell can hold what is in it
-  std::unordered_map<FX::FXint, Stored> stored_;                // by key
-  std::unordered_map<CellKey, std::vector<FX::FXint>> keysOf_;  // of each cell, ascending
+  bool known_ = false;          // whether the table could be read
+  bool readable_ = true;        // whether a cell can hold what is in it
+  std::vector<Stored> stored_;  // ascending by key
+  size_t next_ = 0;             // where the next key is looked for first: lists are mostly stored in their own order
+  size_t end_ = 0;              // of the rows that may be free
+  bool sorted_ = false;         // whether rowsOf_ is filled
+  std::unordered_map<CellKey, std::vector<size_t>> rowsOf_;  // of each cell, ascending
 };
 
 }  // namespace Brontel::Plugin::ItemData

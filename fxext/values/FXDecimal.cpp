@@ -1,7 +1,6 @@
 #include "fxext/values/FXDecimal.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace FXExt {
 
@@ -28,9 +27,7 @@ using FX::FXint;
 using FX::FXString;
 using FX::FXulong;
 
-// The largest power of ten in the table, the largest that fits into a mantissa, and the first that is a multiple of
-// 2^64 and so wraps to nothing.
-constexpr int LAST_EXPS = 15;
+// The largest power of ten that fits into a mantissa, and the first that is a multiple of 2^64 and so wraps to nothing.
 constexpr int LAST_POWER = 18;
 constexpr int WRAPPED_POWER = 64;
 
@@ -73,42 +70,9 @@ FXulong magnitude(long long v) {
   return v < 0 ? 0 - bits(v) : bits(v);
 }
 
-// A tenth of v where v is a multiple of ten, and more than LARGEST_TENTH where it is not: five has an inverse modulo
-// 2^64, and the two is shifted out. Sums are brought into normal form all the time, and a division takes several times
-// as long.
-constexpr FXulong INVERSE_OF_FIVE = 0xCCCCCCCCCCCCCCCDULL;
-constexpr FXulong LARGEST_TENTH = ~0ULL / 10;
-static_assert(INVERSE_OF_FIVE * 5 == 1);
-
-FXulong tenth(FXulong v) {
-  return std::rotr(v * INVERSE_OF_FIVE, 1);
-}
-
 // The precision of a number in normal form. An exponent of -128 needs one place more than the field can say.
 int places(const FXDecimal& d) {
   return std::max<int>(d.precision, -d.exponent);
-}
-
-// Compares the mantissas at the smaller of the two exponents: -1, 0 or 1.
-int compare(const FXDecimal& a, const FXDecimal& b) {
-  const int difference = a.exponent - b.exponent;
-  if (difference == 0) return (a.value > b.value) - (a.value < b.value);
-  const long long left = scale(a.value, std::max(difference, 0));
-  const long long right = scale(b.value, std::max(-difference, 0));
-  return (left > right) - (left < right);
-}
-
-// Both operands at the same number of places, or the right one as it stands when it was never normalised and has more
-// places than the sum. `sign` is 1 or -1.
-FXDecimal sum(FXDecimal left, const FXDecimal& right, int sign) {
-  left.precision = std::max(left.precision, right.precision);
-  left.normalize();
-  const int p = places(left);
-  const FXulong addend = bits(right.exponent >= -p ? scale(right.value, right.exponent + p) : right.value);
-  const FXulong augend = bits(scale(left.value, left.exponent + p));
-  left.value = wrapped(sign < 0 ? augend - addend : augend + addend);
-  left.exponent = narrow(-p);
-  return left.normalize();
 }
 
 }  // namespace
@@ -241,14 +205,6 @@ FXDecimal FXDecimal::round(char p) const {
   return result.normalize();
 }
 
-FXDecimal FXDecimal::operator+(const FXDecimal& other) const {
-  return sum(*this, other, 1);
-}
-
-FXDecimal FXDecimal::operator-(const FXDecimal& other) const {
-  return sum(*this, other, -1);
-}
-
 FXDecimal FXDecimal::operator*(const FXDecimal& other) const {
   FXDecimal result = *this;
   result.value = wrapped(bits(value) * bits(other.value));
@@ -267,14 +223,6 @@ FXDecimal FXDecimal::operator/(const FXDecimal& other) const {
   result.exponent = narrow(-(p + n) - other.exponent);
   result.precision = narrow(p);
   return result.normalize();
-}
-
-FXDecimal& FXDecimal::operator+=(const FXDecimal& other) {
-  return *this = *this + other;
-}
-
-FXDecimal& FXDecimal::operator-=(const FXDecimal& other) {
-  return *this = *this - other;
 }
 
 FXDecimal& FXDecimal::operator*=(const FXDecimal& other) {
@@ -307,28 +255,26 @@ FXDecimal FXDecimal::operator/(long long x) const {
   return result.normalize();
 }
 
-bool FXDecimal::operator==(const FXDecimal& other) const {
-  return compare(*this, other) == 0;
+FXDecimal::Aligned FXDecimal::alignFar(const FXDecimal& a, const FXDecimal& b) {
+  const int difference = a.exponent - b.exponent;
+  return {scale(a.value, std::max(difference, 0)), scale(b.value, std::max(-difference, 0))};
 }
 
-bool FXDecimal::operator!=(const FXDecimal& other) const {
-  return compare(*this, other) != 0;
+// Both operands at the same number of places, or the right one as it stands when it was never normalised and has more
+// places than the sum. `sign` is 1 or the same with all bits set, which subtracts.
+FXDecimal FXDecimal::sumFar(FXDecimal left, FXDecimal right, FXulong sign) {
+  left.precision = std::max(left.precision, right.precision);
+  left.normalize();
+  const int p = places(left);
+  const FXulong addend = bits(right.exponent >= -p ? scale(right.value, right.exponent + p) : right.value);
+  const FXulong augend = bits(scale(left.value, left.exponent + p));
+  left.value = wrapped(augend + sign * addend);
+  left.exponent = narrow(-p);
+  return left.normalize();
 }
 
-bool FXDecimal::operator<(const FXDecimal& other) const {
-  return compare(*this, other) < 0;
-}
-
-bool FXDecimal::operator>(const FXDecimal& other) const {
-  return compare(*this, other) > 0;
-}
-
-bool FXDecimal::operator<=(const FXDecimal& other) const {
-  return compare(*this, other) <= 0;
-}
-
-bool FXDecimal::operator>=(const FXDecimal& other) const {
-  return compare(*this, other) >= 0;
+FXDecimal FXDecimal::normalized(FXDecimal number) {
+  return number.normalize();
 }
 
 bool FXDecimal::operator==(long long x) const {

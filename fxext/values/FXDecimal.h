@@ -1,11 +1,16 @@
 #pragma once
 
+#include <algorithm>
+#include <bit>
+
 #include <fx.h>
 
 namespace FXExt {
 
 /// The powers of ten 10^0 to 10^15, in order. Visible outside the library that holds it.
 __attribute__((visibility("default"))) extern const long long EXPS[16];
+/// The index of the last of them.
+constexpr int LAST_EXPS = 15;
 
 /// A decimal number of fixed size: `value` x 10^`exponent`, with a working number of decimal places. It adds, compares
 /// and prints quantities exactly.
@@ -93,6 +98,97 @@ class FXDecimal {
   bool operator>=(const FXDecimal& other) const;
   /// With decimal places, compares x with the mantissa as it stands: 2.5 == 25 holds. Exact for x = 0.
   bool operator==(long long x) const;
+
+ private:
+  /// The mantissas of two numbers at the same number of places.
+  struct Aligned {
+    long long left;
+    long long right;
+  };
+
+  // What quantities need all day is done in place; what few numbers need is left to the functions that are not inline.
+  static Aligned align(const FXDecimal& a, const FXDecimal& b);
+  static Aligned alignFar(const FXDecimal& a, const FXDecimal& b);
+  static FXDecimal sum(const FXDecimal& left, const FXDecimal& right, FX::FXulong sign);
+  static FXDecimal sumFar(FXDecimal left, FXDecimal right, FX::FXulong sign);
+  static FXDecimal normalized(FXDecimal number);
+
+  /// v x 10^n modulo 2^64, which only unsigned arithmetic defines; n is one of 0 to 15.
+  static FX::FXulong scaled(long long v, int n) {
+    return static_cast<FX::FXulong>(v) * static_cast<FX::FXulong>(EXPS[n]);
+  }
+
+  static constexpr FX::FXulong INVERSE_OF_FIVE = 0xCCCCCCCCCCCCCCCDULL;
+  static constexpr FX::FXulong LARGEST_TENTH = ~0ULL / 10;
+  static_assert(INVERSE_OF_FIVE * 5 == 1);
+
+  /// A tenth of v where v is a multiple of ten, and more than LARGEST_TENTH where it is not: five has an inverse modulo
+  /// 2^64, and the two is shifted out. Sums are brought into normal form all the time, and a division takes several
+  /// times as long.
+  static FX::FXulong tenth(FX::FXulong v) { return std::rotr(v * INVERSE_OF_FIVE, 1); }
 };
+
+inline FXDecimal::Aligned FXDecimal::align(const FXDecimal& a, const FXDecimal& b) {
+  const int difference = a.exponent - b.exponent;
+  if (difference < -LAST_EXPS || difference > LAST_EXPS) return alignFar(a, b);
+  return {static_cast<long long>(scaled(a.value, std::max(difference, 0))),
+          static_cast<long long>(scaled(b.value, std::max(-difference, 0)))};
+}
+
+inline FXDecimal FXDecimal::sum(const FXDecimal& left, const FXDecimal& right, FX::FXulong sign) {
+  const int p = std::max(left.precision, right.precision);
+  const int leftScale = left.exponent + p;
+  const int rightScale = right.exponent + p;
+  const bool isUsual = p >= 0 && leftScale >= 0 && leftScale <= LAST_EXPS && rightScale >= 0 && rightScale <= LAST_EXPS;
+  if (!isUsual) return sumFar(left, right, sign);
+  FXDecimal result = left;
+  const FX::FXulong total = scaled(left.value, leftScale) + sign * scaled(right.value, rightScale);
+  result.value = static_cast<long long>(total);
+  result.exponent = static_cast<signed char>(-p);
+  result.precision = static_cast<signed char>(p);
+  return tenth(result.value < 0 ? 0 - total : total) <= LARGEST_TENTH ? normalized(result) : result;
+}
+
+inline FXDecimal FXDecimal::operator+(const FXDecimal& other) const {
+  return sum(*this, other, 1);
+}
+
+inline FXDecimal FXDecimal::operator-(const FXDecimal& other) const {
+  return sum(*this, other, ~0ULL);
+}
+
+inline FXDecimal& FXDecimal::operator+=(const FXDecimal& other) {
+  return *this = sum(*this, other, 1);
+}
+
+inline FXDecimal& FXDecimal::operator-=(const FXDecimal& other) {
+  return *this = sum(*this, other, ~0ULL);
+}
+
+inline bool FXDecimal::operator==(const FXDecimal& other) const {
+  const Aligned both = align(*this, other);
+  return both.left == both.right;
+}
+
+inline bool FXDecimal::operator!=(const FXDecimal& other) const {
+  return !(*this == other);
+}
+
+inline bool FXDecimal::operator<(const FXDecimal& other) const {
+  const Aligned both = align(*this, other);
+  return both.left < both.right;
+}
+
+inline bool FXDecimal::operator>(const FXDecimal& other) const {
+  return other < *this;
+}
+
+inline bool FXDecimal::operator<=(const FXDecimal& other) const {
+  return !(other < *this);
+}
+
+inline bool FXDecimal::operator>=(const FXDecimal& other) const {
+  return !(*this < other);
+}
 
 }  // namespace FXExt

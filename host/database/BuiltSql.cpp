@@ -16,15 +16,18 @@ void append(std::string& key, const FX::FXString& part) {
 
 const FX::FXString& BuiltSql::get(const FX::FXString& table, const FX::FXString& condition, const BoundValues& values,
                                   const std::function<FX::FXString()>& build) {
-  std::string key;
-  key.reserve(128);
-  append(key, table);
-  append(key, condition);
-  for (const BoundValue& value : values) append(key, value.name);
-  const auto found = texts_.find(key);
-  if (found != texts_.end()) return found->second;
-  if (texts_.size() >= kMostTexts) texts_.clear();
-  return texts_.emplace(std::move(key), build()).first->second;
+  key_.clear();
+  append(key_, table);
+  append(key_, condition);
+  for (const BoundValue& value : values) append(key_, value.name);
+  if (last_ != nullptr && last_->first == key_) return last_->second;
+  auto found = texts_.find(key_);
+  if (found == texts_.end()) {
+    if (texts_.size() >= kMostTexts) texts_.clear();
+    found = texts_.emplace(key_, build()).first;
+  }
+  last_ = &*found;
+  return last_->second;
 }
 
 }  // namespace Brontel::Database

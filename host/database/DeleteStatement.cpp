@@ -10,7 +10,9 @@ using FX::FXString;
 
 DeleteStatement::DeleteStatement(MorvaneDatabase* db, const FXString& table) : Statement(db), table_(table) {}
 
-FXString DeleteStatement::buildSql() const {
+DeleteStatement::DeleteStatement(MorvaneDatabase* db, const char* table) : Statement(db), table_(table) {}
+
+const FXString& DeleteStatement::getSql() const {
   static Brontel::Database::BuiltSql texts;
   return texts.get(table_, FXString(), getValues(), [this] { return build(); });
 }

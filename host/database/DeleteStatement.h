@@ -7,9 +7,10 @@
 class DeleteStatement : public Statement {
  public:
   DeleteStatement(MorvaneDatabase* db, const FX::FXString& table);
+  DeleteStatement(MorvaneDatabase* db, const char* table);
 
  protected:
-  FX::FXString buildSql() const override;
+  const FX::FXString& getSql() const override;
 
  private:
   FX::FXString build() const;

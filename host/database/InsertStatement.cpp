@@ -10,7 +10,9 @@ using FX::FXString;
 
 InsertStatement::InsertStatement(MorvaneDatabase* db, const FXString& table) : Statement(db), table_(table) {}
 
-FXString InsertStatement::buildSql() const {
+InsertStatement::InsertStatement(MorvaneDatabase* db, const char* table) : Statement(db), table_(table) {}
+
+const FXString& InsertStatement::getSql() const {
   static Brontel::Database::BuiltSql texts;
   return texts.get(table_, FXString(), getValues(), [this] { return build(); });
 }

@@ -8,9 +8,10 @@
 class InsertStatement : public Statement {
  public:
   InsertStatement(MorvaneDatabase* db, const FX::FXString& table);
+  InsertStatement(MorvaneDatabase* db, const char* table);
 
  protected:
-  FX::FXString buildSql() const override;
+  const FX::FXString& getSql() const override;
 
  private:
   FX::FXString build() const;

@@ -64,7 +64,8 @@ bool MorvaneDatabase::open(const FXString& path, OpenMode mode) {
 }
 
 int MorvaneDatabase::connect(const FXString& file, int flags) {
-  const int code = sqlite3_open_v2(file.text(), &connection_, flags, nullptr);
+  // One thread uses the connection, so the engine need not lock it at each step.
+  const int code = sqlite3_open_v2(file.text(), &connection_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
   if (code != SQLITE_OK) return code;
   sqlite3_extended_result_codes(connection_, 1);
   // By default the engine takes a misspelled name in double quotes for a text, and a condition on it for true or false.
@@ -78,6 +79,7 @@ int MorvaneDatabase::connect(const FXString& file, int flags) {
 }
 
 void MorvaneDatabase::close() {
+  lastUsed_ = nullptr;
   cache_.clear();
   rollback_.reset();
   sqlite3_close(connection_);
@@ -174,14 +176,18 @@ bool MorvaneDatabase::rollBack() {
 
 PreparedStatement* MorvaneDatabase::prepareCached(const FXString& sql, int& code) {
   const std::string_view text(sql.text(), static_cast<size_t>(sql.length()));
+  // Thousands of times in a row it is the same one.
+  if (lastUsed_ != nullptr && lastUsed_->first == text) return lastUsed_->second.get();
   const auto found = cache_.find(text);
-  if (found != cache_.end()) return found->second.get();
+  if (found != cache_.end()) return (lastUsed_ = &*found)->second.get();
   std::unique_ptr<PreparedStatement> prepared = PreparedStatement::prepare(connection_, sql, code);
   if (prepared == nullptr) return nullptr;
   if (cache_.size() >= kMostCachedStatements) {
+    lastUsed_ = nullptr;
     std::erase_if(cache_, [](const auto& entry) { return !entry.second->isRunning(); });
   }
-  return cache_.emplace(text, std::move(prepared)).first->second.get();
+  lastUsed_ = &*cache_.emplace(text, std::move(prepared)).first;
+  return lastUsed_->second.get();
 }
 
 int MorvaneDatabase::changes() const {

@@ -106,6 +106,7 @@ class MorvaneDatabase {
   sqlite3* connection_ = nullptr;  // owned; closed by close()
   FX::FXString path_;
   Cache cache_;
+  Cache::value_type* lastUsed_ = nullptr;                           // lies in the cache
   std::unique_ptr<Brontel::Database::PreparedStatement> rollback_;  // there before any transaction begins
   bool rollbackPending_ = false;
   Brontel::Database::DatabaseError lastError_;

@@ -1,5 +1,6 @@
 #include "host/database/PreparedStatement.h"
 
+#include <charconv>
 #include <cstring>
 #include <utility>
 
@@ -9,6 +10,18 @@
 #include "host/database/SqlText.h"
 
 namespace Brontel::Database {
+
+namespace {
+
+// Enough for a 64-bit integer, its sign and the zero byte.
+constexpr size_t kMostDigits = 24;
+
+bool isNamed(const BoundValue& value, const std::string& name) {
+  const auto length = static_cast<size_t>(value.name.length());
+  return length == name.size() && std::memcmp(value.name.text(), name.data(), length) == 0;
+}
+
+}  // namespace
 
 std::unique_ptr<PreparedStatement> PreparedStatement::prepare(sqlite3* connection, const FX::FXString& sql, int& code) {
   SqlText translated = translateParameters(sql);
@@ -27,7 +40,7 @@ std::unique_ptr<PreparedStatement> PreparedStatement::prepare(sqlite3* connectio
 }
 
 PreparedStatement::PreparedStatement(sqlite3_stmt* statement, std::vector<std::string> parameters)
-    : statement_(statement), parameters_(std::move(parameters)) {}
+    : statement_(statement), parameters_(std::move(parameters)), places_(parameters_.size()) {}
 
 PreparedStatement::~PreparedStatement() {
   sqlite3_finalize(statement_);
@@ -48,10 +61,20 @@ bool PreparedStatement::isReadOnly() const {
   return sqlite3_stmt_readonly(statement_) != 0;
 }
 
+const BoundValue* PreparedStatement::valueOf(size_t parameter, const BoundValues& values) {
+  const std::string& name = parameters_[parameter];
+  size_t& place = places_[parameter];
+  // The same names are mostly bound in the same order each time.
+  if (place < values.size() && isNamed(values[place], name)) return &values[place];
+  const BoundValue* value = findValue(values, name.c_str());
+  if (value != nullptr) place = static_cast<size_t>(value - values.data());
+  return value;
+}
+
 int PreparedStatement::bind(const BoundValues& values) {
   int code = SQLITE_OK;
   for (size_t i = 0; i < parameters_.size() && code == SQLITE_OK; ++i) {
-    const BoundValue* value = findValue(values, parameters_[i].c_str());
+    const BoundValue* value = valueOf(i, values);
     if (value == nullptr) continue;
     const int number = static_cast<int>(i) + 1;
     // The values outlive the run, so the engine needs no copy of its own.
@@ -64,6 +87,11 @@ int PreparedStatement::bind(const BoundValues& values) {
 
 int PreparedStatement::step(DataBaseValueLoader* loader) {
   int code = sqlite3_step(statement_);
+  columnNames_.clear();
+  if (code == SQLITE_ROW && loader != nullptr) {
+    const int columns = sqlite3_column_count(statement_);
+    for (int i = 0; i < columns; ++i) columnNames_.push_back(sqlite3_column_name(statement_, i));
+  }
   while (code == SQLITE_ROW) {
     code = loader == nullptr ? SQLITE_OK : deliverRow(*loader);
     if (code != SQLITE_OK) return code;
@@ -73,14 +101,24 @@ int PreparedStatement::step(DataBaseValueLoader* loader) {
 }
 
 int PreparedStatement::deliverRow(DataBaseValueLoader& loader) const {
-  const int columns = sqlite3_column_count(statement_);
-  for (int column = 0; column < columns; ++column) {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
+  char digits[kMostDigits];
+  for (size_t i = 0; i < columnNames_.size(); ++i) {
+    const int column = static_cast<int>(i);
+    const char* text = textOf(column, digits);
     // Without memory for the text the engine gives what it gives for NULL; taken for that, it would be saved as empty.
     if (text == nullptr && sqlite3_errcode(sqlite3_db_handle(statement_)) == SQLITE_NOMEM) return SQLITE_NOMEM;
-    if (loader.processValue(column, sqlite3_column_name(statement_, column), text) == 0) return SQLITE_ROW;
+    if (loader.processValue(column, columnNames_[i], text) == 0) return SQLITE_ROW;
   }
   return SQLITE_OK;
+}
+
+const char* PreparedStatement::textOf(int column, char* digits) const {
+  if (sqlite3_column_type(statement_, column) == SQLITE_INTEGER) {
+    // The engine would allocate room for the text first.
+    *std::to_chars(digits, digits + kMostDigits - 1, sqlite3_column_int64(statement_, column)).ptr = '\0';
+    return digits;
+  }
+  return reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
 }
 
 }  // namespace Brontel::Database

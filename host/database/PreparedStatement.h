@@ -37,13 +37,19 @@ class PreparedStatement {
  private:
   PreparedStatement(sqlite3_stmt* statement, std::vector<std::string> parameters);
 
+  const BoundValue* valueOf(size_t parameter, const BoundValues& values);
   int bind(const BoundValues& values);
   int step(DataBaseValueLoader* loader);
   /// SQLITE_OK, SQLITE_ROW when the loader has had enough, or an error.
   int deliverRow(DataBaseValueLoader& loader) const;
+  /// The text of a column of the row that is being read: null for NULL and when there is no memory for it. An integer's
+  /// is written into digits.
+  const char* textOf(int column, char* digits) const;
 
   sqlite3_stmt* statement_;  // owned; the destructor finalizes it
   std::vector<std::string> parameters_;
+  std::vector<size_t> places_;            // of each parameter's value the last time
+  std::vector<const char*> columnNames_;  // the engine's, read anew for each run
   bool running_ = false;
 };
 

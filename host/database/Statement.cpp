@@ -1,6 +1,7 @@
 #include "host/database/Statement.h"
 
 #include <utility>
+#include <vector>
 
 #include "host/database/FirstRowInteger.h"
 #include "host/database/IntegerText.h"
@@ -10,38 +11,93 @@ using Brontel::Database::BoundValue;
 using Brontel::Database::BoundValues;
 using FX::FXString;
 
+namespace {
+
+std::string_view viewOf(const FXString& text) {
+  return {text.text(), static_cast<size_t>(text.length())};
+}
+
+std::string_view viewOf(const char* text) {
+  return text == nullptr ? std::string_view() : std::string_view(text);
+}
+
+/// What statements have bound before, without the values. The next statement mostly binds the same names in the same
+/// order, and then has nothing to allocate.
+std::vector<BoundValues>& spares() {
+  static std::vector<BoundValues> kept;
+  return kept;
+}
+
+BoundValues takeSpare() {
+  if (spares().empty()) {
+    BoundValues values;
+    // More than nearly every statement has: growing would copy the texts.
+    constexpr size_t kUsualValues = 8;
+    values.reserve(kUsualValues);
+    return values;
+  }
+  BoundValues values = std::move(spares().back());
+  spares().pop_back();
+  return values;
+}
+
+void keepSpare(BoundValues&& values) {
+  // As many as there are statements at work at a time.
+  constexpr size_t kMostSpares = 8;
+  if (values.empty() || spares().size() >= kMostSpares) return;
+  for (BoundValue& value : values) {
+    value.isText = false;
+    value.number = 0;
+    value.text.clear();
+  }
+  spares().push_back(std::move(values));
+}
+
+}  // namespace
+
 Statement::Statement(MorvaneDatabase* db) : database(db) {}
 
 Statement::Statement(MorvaneDatabase* db, const FXString& text) : database(db), sql(text) {}
 
-Statement::~Statement() = default;
+Statement::~Statement() {
+  keepSpare(std::move(values_));
+}
 
 void Statement::setInt(const FXString& name, int value) {
-  BoundValue& bound = valueFor(name);
-  bound.isText = false;
-  bound.number = value;
+  bindNumber(viewOf(name), value);
+}
+
+void Statement::setInt(const char* name, int value) {
+  bindNumber(viewOf(name), value);
 }
 
 void Statement::setInt(const FXString& name, const FXString& value) {
   FX::FXlong number = 0;
   const bool isNumber = Brontel::Database::isInteger(value, number);
-  BoundValue& bound = valueFor(name);
-  bound.isText = false;
-  bound.number = isNumber ? number : 0;
+  bindNumber(viewOf(name), isNumber ? number : 0);
 }
 
 void Statement::setString(const FXString& name, FXString value) {
-  BoundValue& bound = valueFor(name);
-  bound.isText = true;
-  bound.text.adopt(value);
+  bindText(viewOf(name), value);
+}
+
+void Statement::setString(const char* name, FXString value) {
+  bindText(viewOf(name), value);
 }
 
 int Statement::execute(DataBaseValueLoader* loader, unsigned char) {
-  const FXString text = buildSql();
+  values_.resize(bound_);
+  const FXString& text = getSql();
   // Taken out first: a loader may bind and run this very statement again.
-  const BoundValues values = std::exchange(values_, {});
-  if (database == nullptr || text.empty()) return 0;
-  return database->run(text, values, loader) ? 1 : 0;
+  BoundValues values = std::exchange(values_, {});
+  bound_ = 0;
+  bool done = false;
+  if (database != nullptr && !text.empty()) {
+    // While a loader is at work, other statements can replace the text.
+    done = loader == nullptr ? database->run(text, values) : database->run(FXString(text), values, loader);
+  }
+  keepSpare(std::move(values));
+  return done ? 1 : 0;
 }
 
 int Statement::queryInt(int column) {
@@ -50,18 +106,29 @@ int Statement::queryInt(int column) {
   return value.getValue();
 }
 
-FXString Statement::buildSql() const {
+const FXString& Statement::getSql() const {
   return sql;
 }
 
-BoundValue& Statement::valueFor(const FXString& name) {
-  for (BoundValue& value : values_) {
-    if (value.name == name) return value;
+void Statement::bindNumber(std::string_view name, FX::FXlong number) {
+  BoundValue& bound = valueFor(name);
+  bound.isText = false;
+  bound.number = number;
+}
+
+void Statement::bindText(std::string_view name, FXString& text) {
+  BoundValue& bound = valueFor(name);
+  bound.isText = true;
+  bound.text.adopt(text);
+}
+
+BoundValue& Statement::valueFor(std::string_view name) {
+  for (size_t i = 0; i < bound_; ++i) {
+    if (viewOf(values_[i].name) == name) return values_[i];
   }
-  // More than nearly every statement has: growing would copy the texts.
-  constexpr size_t kUsualValues = 8;
-  if (values_.capacity() == 0) values_.reserve(kUsualValues);
-  values_.emplace_back();
-  values_.back().name = name;
-  return values_.back();
+  if (bound_ == 0 && values_.empty()) values_ = takeSpare();
+  if (bound_ == values_.size()) values_.emplace_back();
+  BoundValue& value = values_[bound_++];
+  if (viewOf(value.name) != name) value.name.assign(name.data(), static_cast<FX::FXint>(name.size()));
+  return value;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include <fx.h>
 
 #include "host/database/BoundValue.h"
@@ -24,9 +26,11 @@ class Statement {
 
   /// Binding a name again replaces its value.
   void setInt(const FX::FXString& name, int value);
+  void setInt(const char* name, int value);
   /// An integer given as text; text that is no integer binds 0.
   void setInt(const FX::FXString& name, const FX::FXString& value);
   void setString(const FX::FXString& name, FX::FXString value);
+  void setString(const char* name, FX::FXString value);
 
   /// Runs the statement; the loader (may be null) gets each column of each row. 1 when done, 0 when it failed or had
   /// nothing to do. The flag is part of the plug-in interface and has no meaning here.
@@ -37,13 +41,17 @@ class Statement {
   int queryInt(int column);
 
  protected:
-  /// The text to run, made when the values are known; empty when there is nothing to do.
-  virtual FX::FXString buildSql() const;
+  /// The text to run, asked for when the values are known; empty when there is nothing to do. It has to stay as it is
+  /// until another statement is executed.
+  virtual const FX::FXString& getSql() const;
 
   const Brontel::Database::BoundValues& getValues() const { return values_; }
 
  private:
-  Brontel::Database::BoundValue& valueFor(const FX::FXString& name);
+  void bindNumber(std::string_view name, FX::FXlong number);
+  void bindText(std::string_view name, FX::FXString& text);
+  Brontel::Database::BoundValue& valueFor(std::string_view name);
 
   Brontel::Database::BoundValues values_;
+  size_t bound_ = 0;  // of them; the others are left over from another statement until this one is executed
 };

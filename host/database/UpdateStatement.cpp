@@ -15,7 +15,10 @@ using FX::FXString;
 UpdateStatement::UpdateStatement(MorvaneDatabase* db, const FXString& table, const FXString& where)
     : Statement(db), table_(table), where_(where) {}
 
-FXString UpdateStatement::buildSql() const {
+UpdateStatement::UpdateStatement(MorvaneDatabase* db, const char* table, const char* where)
+    : Statement(db), table_(table), where_(where) {}
+
+const FXString& UpdateStatement::getSql() const {
   static Brontel::Database::BuiltSql texts;
   return texts.get(table_, where_, getValues(), [this] { return build(); });
 }

@@ -8,9 +8,10 @@
 class UpdateStatement : public Statement {
  public:
   UpdateStatement(MorvaneDatabase* db, const FX::FXString& table, const FX::FXString& where);
+  UpdateStatement(MorvaneDatabase* db, const char* table, const char* where);
 
  protected:
-  FX::FXString buildSql() const override;
+  const FX::FXString& getSql() const override;
 
  private:
   FX::FXString build() const;

@@ -1,8 +1,8 @@
 #include "host/xml/Document.h"
 
 #include <cstring>
-#include <string>
 
+#include <libxml/parser.h>
 #include <libxml/tree.h>
 
 #include "host/xml/XmlText.h"
@@ -20,7 +20,9 @@ const xmlChar* bytes(const char* text) {
 }  // namespace
 
 Document::Document(const FXString& rootName) : document_(xmlNewDoc(bytes("1.0"))) {
-  xmlNode* root = xmlNewDocNode(document_, nullptr, bytes(cleanText(rootName).c_str()), nullptr);
+  // Thousands of elements have the same few names. The document owns the dictionary.
+  if (document_ != nullptr) document_->dict = xmlDictCreate();
+  xmlNode* root = xmlNewDocNode(document_, nullptr, CleanText(rootName).bytes(), nullptr);
   xmlDocSetRootElement(document_, root);
   adopt(root);
 }

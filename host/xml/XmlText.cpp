@@ -27,10 +27,33 @@ size_t decode(std::string_view rest, unsigned int& code) {
   return isCharacter ? length : 0;
 }
 
+// The bytes of the character at the start of rest when XML can hold it, else 0.
+size_t lengthOfAllowed(std::string_view rest) {
+  // Most texts have nothing else.
+  if (rest.front() >= ' ' && rest.front() <= '~') return 1;
+  unsigned int code = 0;
+  const size_t length = decode(rest, code);
+  return length != 0 && xmlIsCharQ(code) ? length : 0;
+}
+
+bool isClean(std::string_view source) {
+  size_t at = 0;
+  while (at < source.size()) {
+    const size_t length = lengthOfAllowed(source.substr(at));
+    if (length == 0) return false;
+    at += length;
+  }
+  return true;
+}
+
+std::string_view viewOf(const FX::FXString& text) {
+  return {text.text(), static_cast<size_t>(text.length())};
+}
+
 }  // namespace
 
 std::string cleanText(const FX::FXString& text) {
-  const std::string_view source(text.text(), static_cast<size_t>(text.length()));
+  const std::string_view source = viewOf(text);
   std::string clean;
   clean.reserve(source.size());
   size_t at = 0;
@@ -41,6 +64,12 @@ std::string cleanText(const FX::FXString& text) {
     at += length == 0 ? 1 : length;
   }
   return clean;
+}
+
+CleanText::CleanText(const FX::FXString& text) : text_(text.text()) {
+  if (isClean(viewOf(text))) return;
+  cleaned_ = cleanText(text);
+  text_ = cleaned_.c_str();
 }
 
 }  // namespace XMLBuilder

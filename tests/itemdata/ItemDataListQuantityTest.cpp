@@ -2,11 +2,18 @@
 
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataList.h"
+#include "itemdata/ItemDataStringEntry.h"
 #include "tests/itemdata/ListFixture.h"
 
 using namespace Brontel::Plugin::ItemData;
 
 namespace {
+
+/// A cell that gives another value than it holds.
+class SevenEntry : public ItemDataStringEntry {
+ public:
+  FX::FXString getValue() const override { return "7"; }
+};
 
 class ItemDataListQuantityTest : public ListFixture {
  protected:
@@ -147,4 +154,15 @@ TEST_F(ItemDataListQuantityTest, theSumTakesQuantitiesOfAnyRow) {
   addQuantity(7, "4");
   add(list, TYPE_TEXT, VARIABLE_QUANTITY, 1, "100");
   EXPECT_EQ(sum(), "7");
+}
+
+TEST_F(ItemDataListQuantityTest, aKindMayGiveAnotherValueThanItHolds) {
+  auto* seven = new SevenEntry;
+  seven->type = TYPE_QUANTITY;
+  seven->row = 2;
+  seven->value = "100";
+  addQuantity(1, "1");
+  list.append(seven);
+  EXPECT_EQ(sum(), "8");
+  EXPECT_EQ(ofRow(2), "7");
 }

@@ -348,3 +348,37 @@ TEST_F(StoredKeysTest, aListWithoutOwnerKeepsItsKeys) {
   EXPECT_TRUE(recorder.texts().empty());
   EXPECT_EQ(keysOf(loose), std::vector<int>{3});
 }
+
+TEST_F(StoredKeysTest, keysAreTrueInAnyOrder) {
+  insertCell(10, 12, 1, "a", 7);
+  insertCell(10, 12, 2, "b", 8);
+  insertCell(10, 12, 3, "c", 9);
+  for (const int row : {3, 1, 2}) add(TYPE_TEXT, 12, row, "new", 6 + row);
+  repair();
+  EXPECT_EQ(keysOf(list), (std::vector<int>{9, 7, 8}));
+  list[1]->pk = 6;
+  list[2]->pk = 10;
+  repair();
+  EXPECT_EQ(keysOf(list), (std::vector<int>{9, 7, 8}));
+}
+
+TEST_F(StoredKeysTest, cellsTakeTheNewestOfTheirFreeRowsInAnyOrder) {
+  insertCell(10, 12, 1, "older", 3);
+  insertCell(10, 12, 2, "b", 4);
+  insertCell(10, 12, 1, "newer", 5);
+  insertCell(10, 11, 0, "M", 6);
+  add(TYPE_TEXT, 12, 2, "b");
+  add(TYPE_TEXT, 11, 0, "M");
+  add(TYPE_TEXT, 12, 1, "a");
+  add(TYPE_TEXT, 12, 9, "new");
+  repair();
+  EXPECT_EQ(keysOf(list), (std::vector<int>{4, 6, 5, 0}));
+}
+
+TEST_F(StoredKeysTest, aFreeRowIsTakenOnce) {
+  insertCell(10, 12, 1, "a", 3);
+  insertCell(10, 12, 1, "b", 4);
+  for (int i = 0; i < 3; ++i) add(TYPE_TEXT, 12, 1, "new");
+  repair();
+  EXPECT_EQ(keysOf(list), (std::vector<int>{0, 3, 4}));
+}

@@ -7,6 +7,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -319,5 +320,30 @@ TEST(FXDecimalModel, ChainsOfOperationsAgreeWithTheModel) {
     FXDecimal& result = pool[static_cast<std::size_t>(source.below(POOL))];
     const Operation& operation = source.operation();
     ASSERT_TRUE(agrees(operation, a, b, source.arguments(), result)) << "seed " << seed() << ", step " << step;
+  }
+}
+
+TEST(FXDecimalModel, SumsAndComparisonsAgreeWithTheModelAtTheEndsOfTheTable) {
+  const int exponents[] = {-32, -17, -16, -15, -14, -4, -1, 0, 1, 15, 16, 17};
+  const int precisions[] = {-1, 0, 1, 14, 15, 16, 17};
+  const long long values[] = {0, 1, -25, 300, 5000000, std::numeric_limits<long long>::min()};
+  std::vector<FXDecimal> numbers;
+  for (const int exponent : exponents) {
+    for (const int precision : precisions) {
+      for (const long long value : values) numbers.push_back(raw(value, exponent, precision, 1));
+    }
+  }
+  const Arguments none;
+  for (const Operation& operation : OPERATIONS) {
+    const std::string name = operation.name;
+    if (name != "a + b" && name != "a - b" && name != "a += b" && name != "a < b" && name != "a == b") continue;
+    for (const FXDecimal& left : numbers) {
+      for (std::size_t i = 0; i < numbers.size(); i += 5) {
+        FXDecimal a = left;
+        FXDecimal b = numbers[i];
+        FXDecimal result;
+        ASSERT_TRUE(agrees(operation, a, b, none, result));
+      }
+    }
   }
 }

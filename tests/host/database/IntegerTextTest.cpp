@@ -49,3 +49,12 @@ TEST(IntegerTextTest, refusesEverythingElse) {
   }
   EXPECT_FALSE(isInteger(FX::FXString("4\0", 2), value));
 }
+
+TEST(IntegerTextTest, readsWhatHasBlanksOrASignBeforeIt) {
+  EXPECT_EQ(toInt(" 42"), 42);
+  EXPECT_EQ(toInt("\t-7 "), -7);
+  EXPECT_EQ(toInt("+5"), 5);
+  EXPECT_EQ(toInt("-2147483648"), INT_MIN);
+  EXPECT_EQ(toInt("-2147483648 and more"), INT_MIN);
+  EXPECT_EQ(toInt("-99999999999999999999999"), INT_MIN);
+}

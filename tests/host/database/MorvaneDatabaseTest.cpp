@@ -222,3 +222,17 @@ TEST_F(MorvaneDatabaseTest, switchesForeignKeysOutsideOfTransactionsOnly) {
   EXPECT_TRUE(database->setForeignKeys(false));
   EXPECT_EQ(database->queryInt("pragma foreign_keys", 1, -1), 0);
 }
+
+TEST_F(MorvaneDatabaseTest, runsAStatementAgainAfterItHasForgottenIt) {
+  const FX::FXString sql = "select count(*) from t";
+  for (int i = 0; i < 600; ++i) {
+    EXPECT_EQ(database->queryInt("select " + FX::FXStringVal(i), 1, -1), i);
+    if (i % 250 != 0) continue;
+    EXPECT_EQ(database->queryInt(sql, 1, -1), 4);
+  }
+  const FX::FXString path = database->getPath();
+  EXPECT_EQ(database->queryInt(sql, 1, -1), 4);
+  database->close();
+  ASSERT_TRUE(database->open(path, MorvaneDatabase::OpenMode::Existing));
+  EXPECT_EQ(database->queryInt(sql, 1, -1), 4);
+}

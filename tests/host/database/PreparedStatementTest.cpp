@@ -116,3 +116,40 @@ TEST_F(PreparedStatementTest, knowsThatItIsRunning) {
   EXPECT_TRUE(seen);
   EXPECT_FALSE(statement->isRunning());
 }
+
+TEST_F(PreparedStatementTest, findsItsValuesWhereverTheyStand) {
+  const auto statement = prepare("select %a, %b");
+  const BoundValue a{"a", false, 1, {}};
+  const BoundValue b{"b", false, 2, {}};
+  const BoundValue other{"aa", false, 3, {}};
+  RecordingLoader loader;
+  for (const BoundValues& values : {BoundValues{a, b}, BoundValues{b, a}, BoundValues{b}, BoundValues{other, a},
+                                    BoundValues{other, b, a}, BoundValues{}, BoundValues{a, b}}) {
+    EXPECT_EQ(statement->run(values, &loader), SQLITE_DONE);
+  }
+  EXPECT_EQ(loader.values(),
+            (Values{"1", "2", "1", "2", "NULL", "2", "1", "NULL", "1", "2", "NULL", "NULL", "1", "2"}));
+}
+
+TEST_F(PreparedStatementTest, namesColumnsByTheirLatestNames) {
+  run("create table t (a)");
+  run("insert into t values (5)");
+  const auto statement = prepare("select * from t");
+  RecordingLoader loader;
+  EXPECT_EQ(statement->run({}, &loader), SQLITE_DONE);
+  run("alter table t rename column a to another");
+  run("alter table t add column b");
+  EXPECT_EQ(statement->run({}, &loader), SQLITE_DONE);
+  EXPECT_EQ(loader.cells,
+            (std::vector<RecordingLoader::Cell>{{0, "a", "5"}, {0, "another", "5"}, {1, "b", std::nullopt}}));
+}
+
+TEST_F(PreparedStatementTest, deliversNumbersAsTheEnginesOwnTexts) {
+  for (const char* number : {"0", "-1", "42", "2147483648", "9223372036854775807", "(-9223372036854775807-1)", "1.5",
+                             "-0.0", "1e300", "9223372036854775808", "1=1"}) {
+    const Values texts = run(FX::FXString("select ") + number + ", cast(" + number + " as text)");
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(texts[0], texts[1]) << number;
+  }
+  EXPECT_EQ(run("select -9223372036854775807-1, 7"), (Values{"-9223372036854775808", "7"}));
+}

@@ -8,6 +8,7 @@
 #include "host/database/Statement.h"
 #include "host/database/UpdateStatement.h"
 #include "tests/host/database/RecordingLoader.h"
+#include "tests/support/RecordingObserver.h"
 #include "tests/support/TestDatabase.h"
 
 namespace {
@@ -238,4 +239,75 @@ TEST_F(StatementTest, isDeletedThroughItsBase) {
   EXPECT_TRUE(std::has_virtual_destructor_v<Statement>);
   EXPECT_FALSE(std::is_copy_constructible_v<Statement>);
   EXPECT_EQ(database.text("select count(*) from t"), "0");
+}
+
+TEST_F(StatementTest, takesANameAsEitherKindOfText) {
+  Statement statement(database.get(), "select %a, %b");
+  statement.setInt(FX::FXString("a"), 1);
+  statement.setInt("a", 2);
+  statement.setString("b", "x");
+  statement.setString(FX::FXString("b"), "y");
+  EXPECT_EQ(valuesOf(statement), (Values{"2", "y"}));
+}
+
+TEST_F(StatementTest, takesNoNameForAnEmptyOne) {
+  InsertStatement insert(database.get(), "t");
+  insert.setInt(static_cast<const char*>(nullptr), 1);
+  EXPECT_EQ(insert.execute(nullptr, 1), 0);
+  EXPECT_EQ(database.text("select count(*) from t"), "0");
+}
+
+TEST_F(StatementTest, hasNothingOfWhatAnotherOneHasBound) {
+  const char* sql = "select %a, %b, %c";
+  {
+    Statement executed(database.get(), sql);
+    for (const char* name : {"a", "b", "c"}) executed.setString(name, "old");
+    EXPECT_EQ(valuesOf(executed), (Values{"old", "old", "old"}));
+    Statement forgotten(database.get(), sql);
+    for (const char* name : {"c", "b", "a"}) forgotten.setInt(name, 7);
+  }
+  Statement statement(database.get(), sql);
+  statement.setInt("b", 1);
+  EXPECT_EQ(valuesOf(statement), (Values{"NULL", "1", "NULL"}));
+  EXPECT_EQ(valuesOf(statement), (Values{"NULL", "NULL", "NULL"}));
+}
+
+TEST_F(StatementTest, showsTheObserverItsOwnValuesOnly) {
+  const RecordingObserver recorder(database.handle());
+  const auto insert = [this](const std::vector<const char*>& names) {
+    InsertStatement statement(database.get(), "t");
+    for (const char* name : names) statement.setString(name, name);
+    EXPECT_EQ(statement.execute(nullptr, 1), 1);
+  };
+  insert({"a", "b"});
+  insert({"b"});
+  insert({"b", "a"});
+  EXPECT_EQ(recorder.texts(), (Values{"insert into \"t\" (\"a\",\"b\") values (%a,%b) [a='a', b='b']",
+                                      "insert into \"t\" (\"b\") values (%b) [b='b']",
+                                      "insert into \"t\" (\"b\",\"a\") values (%b,%a) [b='b', a='a']"}));
+}
+
+TEST_F(StatementTest, runsItsTextToTheEndWhateverTheLoaderDoes) {
+  database.exec("insert into t (b) values (1), (-9223372036854775807-1)");
+  const FX::FXString sql = "select abs(b) from t order by t_id";
+  Statement statement(database.get(), sql);
+  RecordingLoader loader;
+  loader.onCell = [&] { statement.sql = "select 2"; };
+  EXPECT_EQ(statement.execute(&loader, 1), 0);
+  EXPECT_EQ(loader.values(), Values{"1"});
+  EXPECT_STREQ(database->getLastError().statement.text(), sql.text());
+}
+
+TEST_F(StatementTest, findsItsTextAmongMoreThanItKeeps) {
+  for (int round = 0; round < 2; ++round) {
+    for (int i = 0; i < 300; ++i) {
+      const FX::FXString column = "c" + FX::FXStringVal(i);
+      UpdateStatement update(database.get(), "t", column + "=%" + column);
+      update.setInt(column, 1);
+      update.setInt("b", 1);
+      EXPECT_EQ(update.execute(nullptr, 1), 0);
+      EXPECT_STREQ(database->getLastError().statement.text(),
+                   ("update \"t\" set \"b\"=%b where " + column + "=%" + column).text());
+    }
+  }
 }

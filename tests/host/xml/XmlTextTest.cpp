@@ -2,11 +2,18 @@
 
 #include "host/xml/XmlText.h"
 
-using XMLBuilder::cleanText;
-
 namespace {
 
 const std::string kReplaced = "\xEF\xBF\xBD";
+
+/// What both forms make of the text.
+std::string cleanText(const FX::FXString& text) {
+  const XMLBuilder::CleanText object(text);
+  std::string clean = XMLBuilder::cleanText(text);
+  EXPECT_EQ(reinterpret_cast<const char*>(object.bytes()), clean);
+  EXPECT_EQ(object.isEmpty(), clean.empty());
+  return clean;
+}
 
 }  // namespace
 
@@ -63,4 +70,13 @@ TEST(XmlTextTest, goesThroughLongText) {
     expected += "é" + kReplaced;
   }
   EXPECT_EQ(cleanText(text.c_str()), expected);
+}
+
+TEST(XmlTextTest, copiesOnlyWhatItHasToChange) {
+  for (const char* text : {"", "abc ~", "árvíz\t\xF0\x9F\x98\x80"}) {
+    const FX::FXString source(text);
+    EXPECT_EQ(static_cast<const void*>(XMLBuilder::CleanText(source).bytes()), static_cast<const void*>(source.text()));
+  }
+  const FX::FXString broken("abc\x1f");
+  EXPECT_NE(static_cast<const void*>(XMLBuilder::CleanText(broken).bytes()), static_cast<const void*>(broken.text()));
 }
