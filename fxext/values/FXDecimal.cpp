@@ -262,19 +262,14 @@ FXDecimal::Aligned FXDecimal::alignFar(const FXDecimal& a, const FXDecimal& b) {
 
 // Both operands at the same number of places, or the right one as it stands when it was never normalised and has more
 // places than the sum. `sign` is 1 or the same with all bits set, which subtracts.
-FXDecimal FXDecimal::sumFar(FXDecimal left, FXDecimal right, FXulong sign) {
-  left.precision = std::max(left.precision, right.precision);
-  left.normalize();
-  const int p = places(left);
-  const FXulong addend = bits(right.exponent >= -p ? scale(right.value, right.exponent + p) : right.value);
-  const FXulong augend = bits(scale(left.value, left.exponent + p));
-  left.value = wrapped(augend + sign * addend);
-  left.exponent = narrow(-p);
-  return left.normalize();
-}
-
-FXDecimal FXDecimal::normalized(FXDecimal number) {
-  return number.normalize();
+FXDecimal& FXDecimal::addFar(FXDecimal other, FXulong sign) {
+  precision = std::max(precision, other.precision);
+  normalize();
+  const int p = places(*this);
+  const FXulong addend = bits(other.exponent >= -p ? scale(other.value, other.exponent + p) : other.value);
+  value = wrapped(bits(scale(value, exponent + p)) + sign * addend);
+  exponent = narrow(-p);
+  return normalize();
 }
 
 bool FXDecimal::operator==(long long x) const {

@@ -109,9 +109,8 @@ class FXDecimal {
   // What quantities need all day is done in place; what few numbers need is left to the functions that are not inline.
   static Aligned align(const FXDecimal& a, const FXDecimal& b);
   static Aligned alignFar(const FXDecimal& a, const FXDecimal& b);
-  static FXDecimal sum(const FXDecimal& left, const FXDecimal& right, FX::FXulong sign);
-  static FXDecimal sumFar(FXDecimal left, FXDecimal right, FX::FXulong sign);
-  static FXDecimal normalized(FXDecimal number);
+  FXDecimal& add(const FXDecimal& other, FX::FXulong sign);
+  FXDecimal& addFar(FXDecimal other, FX::FXulong sign);
 
   /// v x 10^n modulo 2^64, which only unsigned arithmetic defines; n is one of 0 to 15.
   static FX::FXulong scaled(long long v, int n) {
@@ -135,34 +134,36 @@ inline FXDecimal::Aligned FXDecimal::align(const FXDecimal& a, const FXDecimal& 
           static_cast<long long>(scaled(b.value, std::max(-difference, 0)))};
 }
 
-inline FXDecimal FXDecimal::sum(const FXDecimal& left, const FXDecimal& right, FX::FXulong sign) {
-  const int p = std::max(left.precision, right.precision);
-  const int leftScale = left.exponent + p;
-  const int rightScale = right.exponent + p;
-  const bool isUsual = p >= 0 && leftScale >= 0 && leftScale <= LAST_EXPS && rightScale >= 0 && rightScale <= LAST_EXPS;
-  if (!isUsual) return sumFar(left, right, sign);
-  FXDecimal result = left;
-  const FX::FXulong total = scaled(left.value, leftScale) + sign * scaled(right.value, rightScale);
-  result.value = static_cast<long long>(total);
-  result.exponent = static_cast<signed char>(-p);
-  result.precision = static_cast<signed char>(p);
-  return tenth(result.value < 0 ? 0 - total : total) <= LARGEST_TENTH ? normalized(result) : result;
+// Field by field: a copy of the whole would have to wait until the processor has put together what was just written.
+inline FXDecimal& FXDecimal::add(const FXDecimal& other, FX::FXulong sign) {
+  const int p = std::max(precision, other.precision);
+  const int ownScale = exponent + p;
+  const int otherScale = other.exponent + p;
+  const bool isUsual = p >= 0 && ownScale >= 0 && ownScale <= LAST_EXPS && otherScale >= 0 && otherScale <= LAST_EXPS;
+  if (!isUsual) return addFar(other, sign);
+  const FX::FXulong total = scaled(value, ownScale) + sign * scaled(other.value, otherScale);
+  value = static_cast<long long>(total);
+  exponent = static_cast<signed char>(-p);
+  precision = static_cast<signed char>(p);
+  return tenth(value < 0 ? 0 - total : total) <= LARGEST_TENTH ? normalize() : *this;
 }
 
 inline FXDecimal FXDecimal::operator+(const FXDecimal& other) const {
-  return sum(*this, other, 1);
+  FXDecimal result = *this;
+  return result.add(other, 1);
 }
 
 inline FXDecimal FXDecimal::operator-(const FXDecimal& other) const {
-  return sum(*this, other, ~0ULL);
+  FXDecimal result = *this;
+  return result.add(other, ~0ULL);
 }
 
 inline FXDecimal& FXDecimal::operator+=(const FXDecimal& other) {
-  return *this = sum(*this, other, 1);
+  return add(other, 1);
 }
 
 inline FXDecimal& FXDecimal::operator-=(const FXDecimal& other) {
-  return *this = sum(*this, other, ~0ULL);
+  return add(other, ~0ULL);
 }
 
 inline bool FXDecimal::operator==(const FXDecimal& other) const {
