@@ -32,7 +32,8 @@ class InvoiceRepository {
   /// not be read in full is not handed out, since saving it would lose the rest.
   std::unique_ptr<Invoice> load(int id, Result& result);
 
-  /// Lets the plug-ins attach their data to the items of an invoice that was not loaded from here.
+  /// Lets the plug-ins attach their data to the items of an invoice that was not loaded from here, reading one state of
+  /// the database.
   void loadPluginData(Invoice& invoice);
 
   /// Writes the invoice in one transaction. When it fails, the database and the objects' keys are as they were before,

@@ -11,6 +11,7 @@ class MessageEvent {
   MessageEvent(const MessageEvent&) = delete;
   MessageEvent& operator=(const MessageEvent&) = delete;
 
+  /// What kind of action it is, as its class has chosen; this host goes by none.
   int getKind() const { return kind_; }
 
   /// Runs the action. It may lead to the message, and this event with it, being deleted.

@@ -16,6 +16,7 @@ class PluginModule : public FX::FXObject {
   PluginModule(const PluginModule&) = delete;
   PluginModule& operator=(const PluginModule&) = delete;
 
+  /// For the module's container; this host calls it for none. The result is the plug-in's own, 0 unless overridden.
   virtual int init();
 
   PluginContainer* getContainer() const { return container_; }

@@ -23,7 +23,7 @@ class Table : public FX::FXObject {
   Table& operator=(const Table&) = delete;
   ~Table() override;
 
-  /// Declares the columns, in order. Called by Schema::sync and nobody else; runs no SQL.
+  /// Declares the columns, in order. Called by the schema and nobody else; runs no SQL.
   virtual void init() = 0;
 
   const FX::FXString& getName() const { return name_; }
