@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <sys/stat.h>
@@ -16,6 +17,13 @@ class PrintPdfTest : public AppTest {
 
   ProgramRun print(const std::string& invoice, const std::string& file) const {
     return run({"print", invoice, "-o", file}, fonts_);
+  }
+
+  /// The same as a user whom the rights of files bind.
+  ProgramRun printUnprivileged(const std::string& invoice, const std::string& file) const {
+    elsewhere_.share();
+    for (const auto& [name, value] : fonts_) setenv(name.c_str(), value.c_str(), 1);
+    return runUnprivileged({"print", invoice, "-o", file});
   }
 
   /// Prints an invoice and returns the PDF's path.
@@ -184,6 +192,19 @@ TEST_F(PrintPdfTest, WhereNoFileCanBeNothingIsWritten) {
   expectRefusedFile(missing, "A fájl nem írható: " + missing + ". Ellenőrizze a mappáját és a jogosultságokat.");
   expectRefusedFile("/dev/full", "Megtelt a lemez, a fájl nem készült el: /dev/full. Szabadítson fel helyet.");
   expectRefusedFile(database, "Ez maga az adatbázis, nem írható felül: " + database + ". Adjon meg másik fájlt.");
+}
+
+TEST_F(PrintPdfTest, AFileThatCannotBeReplacedStaysAsItWas) {
+  makeSample();
+  const std::string file = directory.write("invoice.pdf", "old");
+  ASSERT_EQ(chmod(directory.path().c_str(), 0555), 0);
+  const ProgramRun run = printUnprivileged("1", file);
+  directory.share();
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_EQ(run.errors,
+            "brontel-host: A fájl nem írható: " + file + ". Ellenőrizze a mappáját és a jogosultságokat.\n");
+  EXPECT_EQ(readFile(file), "old");
+  EXPECT_EQ(files().size(), 2U);
 }
 
 TEST_F(PrintPdfTest, AnUnknownInvoiceMakesNoFile) {

@@ -10,6 +10,7 @@
 #include "tests/app/print/PrintSamples.h"
 #include "tests/app/print/ToolFolder.h"
 #include "tests/app/window/WindowFixture.h"
+#include "tests/support/LayoutWalk.h"
 
 using Brontel::App::kPageHeight;
 using Brontel::App::kPageWidth;
@@ -273,6 +274,7 @@ TEST_F(PrintPreviewTest, offersThePrintersAndTheSystemsOwn) {
     user.whenModal([this](FX::FXWindow& window) {
       auto* printers = descendantsOf<FX::FXComboBox>(&window).front();
       ASSERT_EQ(printers->getNumItems(), 3);
+      EXPECT_EQ(LayoutWalk().findFaults(dynamic_cast<FX::FXShell&>(window)), Texts());
       EXPECT_STREQ(printers->getItemText(1).text(), "iroda");
       EXPECT_STREQ(printers->getText().text(), "raktár");
       EXPECT_STREQ(dynamic_cast<PrinterDialog&>(window).getChoice().printer.text(), "raktár");
