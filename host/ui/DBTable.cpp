@@ -33,6 +33,11 @@ bool isCharacter(const FX::FXEvent& event) {
          (event.state & (FX::CONTROLMASK | FX::ALTMASK)) == 0;
 }
 
+// FOX makes a cell's item when it gets a text; one that comes into a selected cell would be dark on dark.
+void showSelection(FX::FXTable& table, FXint row, FXint column) {
+  table.getItem(row, column)->setSelected(table.isItemSelected(row, column));
+}
+
 // Every line's columns; the line feed at the end of the last line starts no further one.
 std::vector<std::vector<FXString>> splitRows(const FXString& text) {
   std::vector<std::vector<FXString>> rows;
@@ -144,6 +149,7 @@ FXString DBTable::getStoredValue(int row, int column) const {
 void DBTable::setStoredValue(int row, int column, const FXString& value) {
   if (!isCell(row, column)) return;
   setItemText(row, column, toShown(column, value));
+  showSelection(*this, row, column);
   if (kindOf(column).type == COLUMN_YESNO) setItemJustify(row, column, FX::FXTableItem::CENTER_Y);
 }
 
@@ -205,6 +211,7 @@ void DBTable::setItemFromControl(FXint row, FXint column, FX::FXWindow* control)
   } else {
     setItemText(row, column, list->getText());
   }
+  showSelection(*this, row, column);
 }
 
 bool DBTable::hasChanges() const {

@@ -11,6 +11,7 @@ void endProcess(const std::string& what) {
 }
 
 FailureHandler theHandler = endProcess;
+size_t theCount = 0;
 
 }  // namespace
 
@@ -18,6 +19,11 @@ void setFailureHandler(FailureHandler handler) {
   theHandler = handler == nullptr ? endProcess : handler;
 }
 
+size_t countFailures() {
+  return theCount;
+}
+
 void reportFailure(const std::string& what) {
+  ++theCount;
   theHandler(what);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 /// Hears of what was relied on and has not come true.
@@ -11,3 +12,6 @@ void setFailureHandler(FailureHandler handler);
 /// A failure of the running test, or whatever a program without tests makes of it. Returns unless the handler ends the
 /// process.
 void reportFailure(const std::string& what);
+
+/// How many failures have been reported so far.
+size_t countFailures();

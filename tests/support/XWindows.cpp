@@ -14,10 +14,22 @@ constexpr int kLongestWaitMs = 20000;
 constexpr int kBriefWaitMs = 1000;
 constexpr long kLongestTitle = 1024;
 
-// Windows of another program may go while one asks about them.
 int ignoreError(Display*, XErrorEvent*) {
   return 0;
 }
+
+// Windows may go while one asks about them. Each question waits for its answer, so that errors of the process's other
+// connections still arrive where they would.
+class Quiet {
+ public:
+  Quiet() : before_(XSetErrorHandler(ignoreError)) {}
+  Quiet(const Quiet&) = delete;
+  Quiet& operator=(const Quiet&) = delete;
+  ~Quiet() { XSetErrorHandler(before_); }
+
+ private:
+  XErrorHandler before_;
+};
 
 bool poll(const std::function<bool()>& condition, int longestMs = kLongestWaitMs) {
   const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(longestMs);
@@ -36,7 +48,6 @@ struct XWindows::Connection {
       reportFailure("cannot connect to " + name);
       std::abort();
     }
-    XSetErrorHandler(ignoreError);
     titleAtom = XInternAtom(display, "_NET_WM_NAME", False);
   }
   ~Connection() { XCloseDisplay(display); }
@@ -63,6 +74,7 @@ XWindows::XWindows(const std::string& display) : connection_(std::make_unique<Co
 XWindows::~XWindows() = default;
 
 std::vector<XWindows::Shown> XWindows::shown() {
+  const Quiet quiet;
   Window root = 0;
   Window parent = 0;
   Window* children = nullptr;
@@ -95,6 +107,7 @@ unsigned long XWindows::find(const std::string& title) {
 }
 
 XWindows::Place XWindows::placeOf(unsigned long window) {
+  const Quiet quiet;
   XWindowAttributes attributes;
   if (XGetWindowAttributes(connection_->display, window, &attributes) == 0) return {};
   return {attributes.x, attributes.y, attributes.width, attributes.height};

@@ -88,6 +88,21 @@ TEST_F(DBTableEditingTest, takesWhatIsTypedIntoACell) {
   EXPECT_EQ(row(1), "8 b 2 1 z");
 }
 
+TEST_F(DBTableEditingTest, aTextThatComesIntoASelectedCellIsShownAsSelected) {
+  show();
+  const int last = table->appendNewRow();
+  for (int column = 0; column < 3; ++column) {
+    user.clickCell(table, last, column);
+    user.key(FX::KEY_F2);
+    if (column == 0) user.type("x");
+    if (column == 1) user.key(FX::KEY_Down);
+    if (column < 2) user.key(FX::KEY_Return);
+    ASSERT_TRUE(table->isItemSelected(last, column)) << column;
+    EXPECT_TRUE(table->getItem(last, column)->isSelected()) << column;
+  }
+  EXPECT_EQ(row(last), "-1 x 1 1 ");
+}
+
 TEST_F(DBTableEditingTest, turnsYesAndNoRoundByDoubleClickSpaceAndF2ButNoOtherKey) {
   show();
   user.doubleClickCell(table, 0, 2);
