@@ -11,7 +11,6 @@
 namespace Tour {
 
 using Brontel::App::InvoiceHead;
-using Brontel::App::ItemGrid;
 using FX::FXint;
 
 namespace {
@@ -90,9 +89,8 @@ void InvoiceChapter::recordService(FX::FXWindow& dialog) {
   expectItemDataTitle(dialog, Story::kService);
   Texts labels;
   for (const FX::FXLabel* label : descendantsOf<FX::FXLabel>(&dialog)) {
-    if (dynamic_cast<const FX::FXButton*>(label) == nullptr && !label->getText().empty() && isSeen(label)) {
-      labels.emplace_back(label->getText().text());
-    }
+    const bool isButton = dynamic_cast<const FX::FXButton*>(label) != nullptr;
+    if (!isButton && !label->getText().empty() && isSeen(label)) labels.emplace_back(label->getText().text());
   }
   expect("the inputs", labels,
          {std::string(Story::kWorkSheet) + ":", std::string(Story::kPlace) + ":",
