@@ -17,10 +17,14 @@ target_compile_features(BrontelCore INTERFACE cxx_std_20)
 install(TARGETS BrontelCore EXPORT BrontelTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT brontel-core NAMELINK_COMPONENT brontel-core-dev
   INCLUDES DESTINATION ${BRONTEL_INSTALL_INCLUDEDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/app/xsd/invoice.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/brontel/xsd
+  COMPONENT brontel-core)
 
 # brontel-plugin-itemdata: the host loads every library of that folder, so nothing else may lie there.
 install(TARGETS BrontelPluginItemData
   LIBRARY DESTINATION ${BRONTEL_INSTALL_PLUGINDIR} COMPONENT brontel-plugin-itemdata)
+install(FILES ${PROJECT_SOURCE_DIR}/plugin/xsd/itemdata.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/brontel/xsd
+  COMPONENT brontel-plugin-itemdata)
 
 # brontel-core-dev
 foreach(header IN LISTS BRONTEL_PUBLIC_HEADERS)
