@@ -29,7 +29,7 @@ int InvoiceCheck::checkInvoice(FX::FXWindow* parent, Invoice* invoice, ListOfMes
   // A copy of pointers: what a check leads to may change the invoice's own list.
   const FX::FXObjectListOf<InvoiceItem> items = invoice->getItems();
   for (FXint i = 0; i < items.no(); ++i) {
-    if (items[i] != nullptr) checkItem(parent, items[i], i + 1, messages, prefix);
+    checkItem(parent, items[i], i + 1, messages, prefix);
   }
   return 1;
 }

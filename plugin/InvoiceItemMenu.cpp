@@ -43,9 +43,7 @@ void InvoiceItemMenu::openDialogs(InvoiceForm& form, FXint first, FXint last) {
     // Asked anew each time: the form goes on living under the dialogs.
     Invoice* invoice = form.getInvoice();
     if (invoice == nullptr || row >= invoice->getItems().no()) return;
-    InvoiceItem* item = invoice->getItems()[row];
-    if (item == nullptr) continue;
-    ItemDataDialog dialog(&form, item);
+    ItemDataDialog dialog(&form, invoice->getItems()[row]);
     dialog.execute(FX::PLACEMENT_CURSOR);
   }
 }

@@ -355,6 +355,24 @@ TEST_F(InvoiceItemPluginTest, findsNothingWithoutADatabase) {
   world_.app().setDB(world_.database().get());
 }
 
+TEST_F(InvoiceItemPluginTest, keepsTheDataForLaterWithoutADatabase) {
+  InvoiceItem* item = storedSofa();
+  ItemDataList& list = *dataOf(item);
+  list[0]->value = "B";
+  world_.app().setDB(nullptr);
+  EXPECT_EQ(plugin().save(item), 1);
+  const InvoiceItemPlugin orphan(nullptr, 1, 1, 0, 1, 1);
+  EXPECT_EQ(orphan.save(item), 1);
+  world_.app().setDB(world_.database().get());
+  EXPECT_EQ(world_.stored(*item), (Texts{"11/0=A", "-1/1=5", "12/1=S1", "13/1=kék"}));
+  EXPECT_EQ(plugin().save(item), 1);
+  EXPECT_EQ(world_.stored(*item), (Texts{"11/0=B", "-1/1=5", "12/1=S1", "13/1=kék"}));
+  EXPECT_EQ(count(), "4");
+  InvoiceItem* another = newSofa();
+  EXPECT_EQ(orphan.load(another), 0);
+  EXPECT_EQ(dataOf(another), nullptr);
+}
+
 TEST_F(InvoiceItemPluginTest, saysNothingWhenTheDatabaseFails) {
   InvoiceItem* item = storedSofa();
   MorvaneDatabase closed;

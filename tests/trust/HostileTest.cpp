@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tests/host/xml/ParsedXml.h"
+#include "tests/support/ChildProcess.h"
 #include "tests/support/TestDatabase.h"
 
 namespace {
@@ -15,6 +16,13 @@ bool isOneLine(const std::string& text) {
 }
 
 }  // namespace
+
+std::string HostileTest::complaintOfXmllint(const std::string& xml) {
+  const TemporaryDirectory folder;
+  ChildProcess xmllint({"xmllint", "--noout", "--nonet", folder.write("export.xml", xml)});
+  EXPECT_TRUE(xmllint.start());
+  return xmllint.wait() == 0 && xmllint.getErrors().empty() ? "" : "xmllint: " + xmllint.getErrors();
+}
 
 void HostileTest::spoil(const std::string& script) const {
   makeSample();
@@ -31,6 +39,7 @@ void HostileTest::expectAllCommandsSurvive(const Environment& environment) const
     const ProgramRun run = runBounded(arguments, environment);
     if (arguments[0] == "export" && run.exitCode == 0) {
       EXPECT_TRUE(ParsedXml(run.output).isWellFormed()) << "invoice " << arguments[1];
+      EXPECT_EQ(complaintOfXmllint(run.output).substr(0, 2000), "") << "invoice " << arguments[1];
     }
   }
   EXPECT_TRUE(TestDatabase::dumpOf(database) == before) << "a reading command has changed the database";

@@ -12,7 +12,7 @@ class HostileTest : public AppTest {
   void spoil(const std::string& script) const;
 
   /// Every command on every invoice. Each one ends by itself and well: done, something to mend, or refused with one
-  /// line; what it exports is well-formed, and no reading command changes anything.
+  /// line; what it exports is well-formed to the library and to xmllint, and no reading command changes anything.
   void expectAllCommandsSurvive(const Environment& environment = {}) const;
 
   /// Saves the open invoices, unchanged. What was recorded stays as it was, also when a save is refused.
@@ -20,6 +20,9 @@ class HostileTest : public AppTest {
 
   /// Everything but the versions of the invoices, with types.
   std::string content() const;
+
+  /// What the program xmllint has against an XML text; nothing when it is well-formed.
+  static std::string complaintOfXmllint(const std::string& xml);
 
  private:
   ProgramRun runBounded(const Arguments& arguments, const Environment& environment) const;

@@ -37,6 +37,14 @@ TEST_F(HostileTextDataTest, Sql) {
   expectHarmless("'''; drop table t_invoice; -- \" %id %row %t_invoiceitem_1 ?1 :a @b $c'");
 }
 
+TEST_F(HostileTextDataTest, XmllintSeesWhatIsNotWellFormed) {
+  EXPECT_EQ(complaintOfXmllint("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a b=\"ő&lt;\">&#10;</a>\n"), "");
+  for (const char* wrong :
+       {"", "<a>", "<a>&#1;</a>", "<a>\x01</a>", "<a>\xff</a>", "<a b=\"<\"/>", "<a/><b/>", "<a>&n;</a>"}) {
+    EXPECT_NE(complaintOfXmllint(wrong), "") << wrong;
+  }
+}
+
 TEST_F(HostileTextDataTest, Xml) {
   expectHarmless("'<a b=\"c\">&amp;&#0;]]><!-- --><?x?></invoice>'");
 }
