@@ -6,6 +6,7 @@
 #include "host/plugin/PluginContainer.h"
 #include "host/ui/DBTable.h"
 #include "host/ui/KeyboardMenu.h"
+#include "host/ui/Legibility.h"
 #include "host/ui/Morvane.h"
 
 namespace Brontel::Plugin::UI {
@@ -90,18 +91,21 @@ void PluginSettingsDialogBox::buildFoot(const Morvane* app) {
   constexpr FX::FXuint kBottom = FX::LAYOUT_SIDE_BOTTOM | FX::LAYOUT_FILL_X;
   constexpr FX::FXuint kRowButton = FX::BUTTON_NORMAL | FX::ICON_BEFORE_TEXT;
   constexpr FX::FXuint kEndButton = FX::BUTTON_NORMAL | FX::LAYOUT_RIGHT;
-  // Takes a second row where the letters are too big for one.
-  auto* buttons = new FX::FXToolBar(this, kBottom, 0, 0, 0, 0, 2, 2, 2, 2);
+  // The dialog does not grow with the letters: very big ones leave no room beside the words.
+  const bool isTight = scaledToFont(getApp(), 100) > 150;
+  const FX::FXint pad = isTight ? 6 : 20;
+  const FX::FXuint packing = isTight ? FX::PACK_NORMAL : FX::PACK_UNIFORM_WIDTH;
+  auto* buttons = new FX::FXHorizontalFrame(this, kBottom);
   new FX::FXHorizontalSeparator(this, FX::SEPARATOR_GROOVE | kBottom);
   new FX::FXButton(buttons, gettext("Új &sor\tÚj sor (Ins)"), app == nullptr ? nullptr : app->getNewRowIcon(), this,
                    ID_NEW_ROW, kRowButton, 0, 0, 0, 0, 6, 6, 2, 2);
   new FX::FXButton(buttons, gettext("&Törlés\tA kijelölt sorok törlése (Del)"),
                    app == nullptr ? nullptr : app->getDeleteIcon(), this, ID_DELETE_ROWS, kRowButton, 0, 0, 0, 0, 6, 6,
                    2, 2);
-  auto* ends = new FX::FXHorizontalFrame(buttons, FX::LAYOUT_RIGHT | FX::PACK_UNIFORM_WIDTH, 0, 0, 0, 0, 0, 0, 0, 0);
-  new FX::FXButton(ends, gettext("Mé&gsem"), nullptr, this, ID_CANCEL, kEndButton, 0, 0, 0, 0, 20, 20, 2, 2);
-  new FX::FXButton(ends, gettext("&OK"), nullptr, this, ID_ACCEPT, kEndButton | FX::BUTTON_INITIAL, 0, 0, 0, 0, 20, 20,
-                   2, 2);
+  auto* ends = new FX::FXHorizontalFrame(buttons, FX::LAYOUT_RIGHT | packing, 0, 0, 0, 0, 0, 0, 0, 0);
+  new FX::FXButton(ends, gettext("Mé&gsem"), nullptr, this, ID_CANCEL, kEndButton, 0, 0, 0, 0, pad, pad, 2, 2);
+  new FX::FXButton(ends, gettext("&OK"), nullptr, this, ID_ACCEPT, kEndButton | FX::BUTTON_INITIAL, 0, 0, 0, 0, pad,
+                   pad, 2, 2);
 }
 
 PluginSettingsDialogBox::~PluginSettingsDialogBox() = default;
