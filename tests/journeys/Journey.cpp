@@ -77,6 +77,9 @@ unsigned long Journey::use(const std::string& title) {
 }
 
 void Journey::clickAt(unsigned long window, int x, int y, bool isDouble) {
+  // A widget that has just been clicked holds the pointer until the program has seen the button go up, and would get
+  // this click as well. No person is as fast as that.
+  EXPECT_TRUE(program->waitUntilIdle());
   const XWindows::Place place = windows.placeOf(window);
   const int left = place.x + x + (x < 0 ? place.width : 0);
   const int top = place.y + y + (y < 0 ? place.height : 0);

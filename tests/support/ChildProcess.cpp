@@ -5,9 +5,11 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <fstream>
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -23,6 +25,18 @@ bool drain(int& pipe, std::string& text) {
   close(pipe);
   pipe = -1;
   return false;
+}
+
+// How often a process has gone to sleep, while it sleeps; empty while it does not.
+std::string sleepOf(pid_t process) {
+  std::ifstream status("/proc/" + std::to_string(process) + "/status");
+  std::string line;
+  bool isAsleep = false;
+  while (std::getline(status, line)) {
+    if (line.rfind("State:", 0) == 0) isAsleep = line.find("(sleeping)") != std::string::npos;
+    if (line.rfind("voluntary_ctxt_switches:", 0) == 0) return isAsleep ? line : std::string();
+  }
+  return std::string();
 }
 
 }  // namespace
@@ -78,6 +92,21 @@ void ChildProcess::execute(int output, int errors) {
 
 void ChildProcess::kill(int signal) const {
   if (pid_ > 0) ::kill(pid_, signal);
+}
+
+bool ChildProcess::waitUntilIdle() const {
+  constexpr int kPeriodMs = 10;
+  constexpr int kQuietPeriods = 5;
+  constexpr int kLongestMs = 10000;
+  std::string before;
+  int quiet = 0;
+  for (int waited = 0; waited < kLongestMs && quiet < kQuietPeriods; waited += kPeriodMs) {
+    const std::string now = sleepOf(pid_);
+    quiet = !now.empty() && now == before ? quiet + 1 : 0;
+    before = now;
+    std::this_thread::sleep_for(std::chrono::milliseconds(kPeriodMs));
+  }
+  return quiet == kQuietPeriods;
 }
 
 int ChildProcess::wait() {

@@ -26,6 +26,9 @@ class ChildProcess {
   bool start();
   /// Sends a signal to the program that start has started.
   void kill(int signal) const;
+  /// Waits until the started program has dealt with all that it was sent: it sleeps, and nothing wakes it for a while.
+  /// False when it is still at work after ten seconds, or ends meanwhile.
+  bool waitUntilIdle() const;
   /// Waits for the end, reading what it writes; after the timeout the program is killed. Returns getExitCode().
   int wait();
   /// start and wait.

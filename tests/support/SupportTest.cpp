@@ -137,6 +137,15 @@ TEST(ChildProcessTest, canBeKilledMeanwhileAndTellsOfAMissingProgram) {
   EXPECT_EQ(ChildProcess({}).run(), -1);
 }
 
+TEST(ChildProcessTest, isIdleOnceItsWorkIsDone) {
+  const TemporaryDirectory directory;
+  const std::string done = directory.path("done");
+  ChildProcess child({"sh", "-c", "i=0; while [ $i -lt 50000 ]; do i=$((i+1)); done; : > \"$0\"; exec sleep 60", done});
+  ASSERT_TRUE(child.start());
+  EXPECT_TRUE(child.waitUntilIdle());
+  EXPECT_EQ(access(done.c_str(), F_OK), 0);
+}
+
 TEST(ChildProcessTest, takesLargeOutputsOnBothPipes) {
   ChildProcess child({"sh", "-c", "head -c 300000 /dev/zero; head -c 300000 /dev/zero >&2"});
   EXPECT_EQ(child.run(), 0);
