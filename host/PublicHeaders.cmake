@@ -47,6 +47,7 @@ set(BRONTEL_PUBLIC_HEADERS
   host/ui/KeyboardMenu.h
   host/ui/Morvane.h
   host/ui/PanelisedWindow.h
+  host/ui/PastedText.h
   host/ui/PixelIcon.h
   host/ui/PluginSettingsDialogBox.h
   host/ui/ProductDataWindow.h

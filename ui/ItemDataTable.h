@@ -2,13 +2,15 @@
 
 #include <fx.h>
 
+namespace Brontel {
+class PastedText;
+}
+
 namespace Brontel::Plugin::ItemData {
 
 class ItemDataEntry;
 
 namespace UI {
-
-class PastedText;
 
 /// The table in which the rows of an item's per-unit data are recorded. Its cells are linked to ItemDataEntry objects
 /// through their item data; a cell without link cannot be edited, and no command takes a link away.

@@ -5,11 +5,11 @@
 
 #include "host/message/FillIn.h"
 #include "host/ui/Legibility.h"
+#include "host/ui/PastedText.h"
 #include "itemdata/Codes.h"
 #include "itemdata/ItemDataEntry.h"
 #include "ui/ClipboardText.h"
 #include "ui/ItemDataTable.h"
-#include "ui/PastedText.h"
 
 namespace Brontel::Plugin::ItemData::UI {
 

@@ -8,6 +8,7 @@
 #include "host/database/IntegerText.h"
 #include "host/ui/DBTablePersister.h"
 #include "host/ui/Legibility.h"
+#include "host/ui/PastedText.h"
 
 namespace Brontel {
 
@@ -36,20 +37,6 @@ bool isCharacter(const FX::FXEvent& event) {
 // FOX makes a cell's item when it gets a text; one that comes into a selected cell would be dark on dark.
 void showSelection(FX::FXTable& table, FXint row, FXint column) {
   table.getItem(row, column)->setSelected(table.isItemSelected(row, column));
-}
-
-// Every line's columns; the line feed at the end of the last line starts no further one.
-std::vector<std::vector<FXString>> splitRows(const FXString& text) {
-  std::vector<std::vector<FXString>> rows;
-  FXString rest(text);
-  rest.substitute("\r\n", "\n");
-  if (!rest.empty() && rest[rest.length() - 1] == '\n') rest.trunc(rest.length() - 1);
-  for (FXint line = 0; line <= rest.contains('\n'); ++line) {
-    const FXString row = rest.section('\n', line);
-    rows.emplace_back();
-    for (FXint column = 0; column <= row.contains('\t'); ++column) rows.back().push_back(row.section('\t', column));
-  }
-  return rows;
 }
 
 }  // namespace
@@ -167,19 +154,17 @@ void DBTable::startInput(FXint row, FXint column) {
 
 bool DBTable::pasteText(int row, int column, const FXString& text) {
   if (!isCell(row, column) || text.empty()) return false;
-  const std::vector<std::vector<FXString>> rows = splitRows(text);
-  for (const auto& values : rows) {
-    for (size_t i = 0; i < values.size(); ++i) {
-      if (!takesText(column + static_cast<int>(i), values[i])) return false;
+  const PastedText pasted(text);
+  for (FXint line = 0; line < pasted.getNumRows(); ++line) {
+    for (FXint i = 0; i < pasted.getNumColumns(line); ++i) {
+      if (!takesText(column + i, pasted.getCell(line, i))) return false;
     }
   }
   acceptInput(TRUE);
-  for (size_t line = 0; line < rows.size(); ++line) {
-    const int target = row + static_cast<int>(line);
-    if (target >= getNumRows()) appendNewRow();
-    for (size_t i = 0; i < rows[line].size(); ++i) {
-      const int at = column + static_cast<int>(i);
-      setStoredValue(target, at, toStored(at, rows[line][i]));
+  for (FXint line = 0; line < pasted.getNumRows(); ++line) {
+    if (row + line >= getNumRows()) appendNewRow();
+    for (FXint i = 0; i < pasted.getNumColumns(line); ++i) {
+      setStoredValue(row + line, column + i, toStored(column + i, pasted.getCell(line, i)));
     }
   }
   return true;

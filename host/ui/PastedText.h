@@ -4,7 +4,7 @@
 
 #include <fx.h>
 
-namespace Brontel::Plugin::ItemData::UI {
+namespace Brontel {
 
 /// Text from the clipboard as the table that it was copied from: line feeds (with or without carriage return) end rows
 /// and tabs separate cells. A line feed at the very end begins no further row.
@@ -22,4 +22,4 @@ class PastedText {
   std::vector<std::vector<FX::FXString>> rows_;
 };
 
-}  // namespace Brontel::Plugin::ItemData::UI
+}  // namespace Brontel

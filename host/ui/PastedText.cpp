@@ -1,10 +1,10 @@
-#include "ui/PastedText.h"
+#include "host/ui/PastedText.h"
 
 #include <algorithm>
 
 #include "fxext/values/FXStringIterator.h"
 
-namespace Brontel::Plugin::ItemData::UI {
+namespace Brontel {
 
 using FXExt::FXStringIterator;
 
@@ -26,4 +26,4 @@ FX::FXint PastedText::getNumColumns() const {
   return static_cast<FX::FXint>(columns);
 }
 
-}  // namespace Brontel::Plugin::ItemData::UI
+}  // namespace Brontel

@@ -1,6 +1,6 @@
-#include "ui/PastedText.h"
+#include "host/ui/PastedText.h"
 
-using Brontel::Plugin::ItemData::UI::PastedText;
+using Brontel::PastedText;
 
 namespace {
 
