@@ -15,8 +15,8 @@ class ItemDataContainer : public PluginContainer {
   ~ItemDataContainer() override;
 
   FX::FXIcon* getIcon16() override;
-  /// 1, also when tables are missing: they show as missing data and are tried again at the next start. 0 without memory.
-  /// Again on the same container it only looks after the tables.
+  /// 1, also when tables are missing: they show as missing data and are tried again at the next start. 0 without
+  /// memory. Again on the same container it only looks after the tables.
   int init() override;
   /// Lets the user edit the item variables and stores them. 1 also when the user changes their mind.
   long onSettings(FX::FXObject*, FX::FXSelector, void*) override;

@@ -22,7 +22,6 @@ const Translations kPlugins = {{"&Új sor\tIns", "&New row\tIns"},
 
 class DialogTranslationTest : public FormFixture {
  protected:
-
   void install(const char* domain, const Translations& texts) {
     MessageCatalog catalog;
     for (const auto& [text, translation] : texts) catalog.add(text, translation);
