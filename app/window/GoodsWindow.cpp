@@ -61,10 +61,12 @@ GoodsDataWindow* makeWindow(Workspace& workspace, GoodsKind kind) {
   return new GoodsWindow<ProductDataWindow>(workspace);
 }
 
-GoodsDataWindow* findWindow(const Workspace& workspace, GoodsKind kind, int id) {
+// The window of goods that are open already, in front; null without one.
+GoodsDataWindow* bringForward(const Workspace& workspace, GoodsKind kind, int id) {
   for (OpenWindow* window : workspace.getWindows()) {
     auto* goods = dynamic_cast<GoodsDataWindow*>(window->getWindow());
     if (goods != nullptr && id != 0 && goods->getKind() == kind && goods->getCurrentId() == id && goods->shown()) {
+      window->bringForward();
       return goods;
     }
   }
@@ -74,10 +76,7 @@ GoodsDataWindow* findWindow(const Workspace& workspace, GoodsKind kind, int id) 
 }  // namespace
 
 GoodsDataWindow* openGoodsWindow(Workspace& workspace, FX::FXWindow* owner, GoodsKind kind, int id) {
-  if (GoodsDataWindow* there = findWindow(workspace, kind, id)) {
-    dynamic_cast<OpenWindow*>(there)->bringForward();
-    return there;
-  }
+  if (GoodsDataWindow* there = bringForward(workspace, kind, id)) return there;
   GoodsDataWindow* window = makeWindow(workspace, kind);
   const Result result = window->open(workspace.getDatabase(), workspace.getPlugins(), id);
   if (result == Result::Done) {

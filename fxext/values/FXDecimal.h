@@ -136,7 +136,7 @@ inline FXDecimal::Aligned FXDecimal::align(const FXDecimal& a, const FXDecimal& 
 
 // Field by field: a copy of the whole would have to wait until the processor has put together what was just written.
 inline FXDecimal& FXDecimal::add(const FXDecimal& other, FX::FXulong sign) {
-  const int p = std::max(precision, other.precision);
+  const int p = std::max<int>(precision, other.precision);
   const int ownScale = exponent + p;
   const int otherScale = other.exponent + p;
   const bool isUsual = p >= 0 && ownScale >= 0 && ownScale <= LAST_EXPS && otherScale >= 0 && otherScale <= LAST_EXPS;
