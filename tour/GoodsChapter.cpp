@@ -97,7 +97,7 @@ GoodsChapter::Panel GoodsChapter::openPanel(FX::FXWindow& window) {
   for (FX::FXArrowButton* arrow : descendantsOf<FX::FXArrowButton>(&window)) {
     if (isSeen(arrow)) panel.arrows.push_back(arrow);
   }
-  if (panel.lists.size() == LISTS && panel.arrows.size() == 2 * ARROWS) return panel;
+  if (panel.lists.size() == LISTS && panel.arrows.size() == size_t{2} * ARROWS) return panel;
   reportFailure("the plug-in's panel has not come");
   return {};
 }

@@ -89,7 +89,7 @@ void InvoiceChapter::recordService(FX::FXWindow& dialog) {
   expectItemDataTitle(dialog, Story::kService);
   Texts labels;
   for (const FX::FXLabel* label : descendantsOf<FX::FXLabel>(&dialog)) {
-    const bool isButton = dynamic_cast<const FX::FXButton*>(label) != nullptr;
+    const bool isButton = label->isMemberOf(FXMETACLASS(FX::FXButton));
     if (!isButton && !label->getText().empty() && isSeen(label)) labels.emplace_back(label->getText().text());
   }
   expect("the inputs", labels,
