@@ -59,7 +59,7 @@ bool parse(int count, char** arguments, Wishes& wishes) {
                                                    : nullptr;
     if (value != nullptr && i + 1 < count) {
       *value = arguments[++i];
-    } else if (value == nullptr && wishes.folder.empty() && argument.rfind("-", 0) != 0) {
+    } else if (value == nullptr && wishes.folder.empty() && argument.rfind('-', 0) != 0) {
       wishes.folder = argument;
     } else {
       return false;
@@ -99,7 +99,8 @@ int main(int argc, char* argv[]) {
   const Tour::Result result = Tour::takeTour(folder, plugins);
   std::printf("%zu pictures:\n", result.pictures.size());
   for (const std::string& picture : result.pictures) std::printf("  %s\n", picture.c_str());
-  for (const char* document : {"invoice.pdf", "invoice.txt", "invoice.xml"})
+  for (const char* document : {"invoice.pdf", "invoice.txt", "invoice.xml"}) {
     std::printf("%s/%s\n", folder.c_str(), document);
+  }
   return 0;
 }
