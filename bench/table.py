@@ -14,10 +14,14 @@ def read(files):
     subjects = {}
     for name in files:
         with open(name, encoding="utf-8") as file:
-            for run in json.load(file)["benchmarks"]:
+            # A program in which the filter found nothing leaves its file empty.
+            runs = json.loads(file.read() or '{"benchmarks": []}')["benchmarks"]
+            for run in sorted(runs, key=lambda run: (run["family_index"], run["per_family_instance_index"])):
                 if run.get("error_occurred"):
                     sys.exit(f"{run['name']}: {run['error_message']}")
-                subject, rest = run["name"].split(":")
+                if run.get("aggregate_name") != "median":
+                    continue
+                subject, rest = run["run_name"].split(":")
                 who, size = rest.split("/")
                 counters = {key: run[key] for key in ("bytes per cell", "statements") if key in run}
                 subjects.setdefault(subject, {}).setdefault(who, {})[int(size)] = (run["cpu_time"], counters)

@@ -47,8 +47,7 @@ FXString Document::toText() const {
 }
 
 Element* Document::adopt(_xmlNode* node) {
-  elements_.push_back(std::unique_ptr<Element>(new Element(this, node)));
-  return elements_.back().get();
+  return &elements_.emplace_back(this, node);
 }
 
 _xmlNs* Document::findNamespace(const FXString& uri) const {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <memory>
-#include <vector>
+#include <deque>
 
 #include <fx.h>
 
@@ -18,7 +17,7 @@ class Document {
   Document& operator=(const Document&) = delete;
   ~Document();
 
-  Element* getRoot() const { return elements_.front().get(); }
+  Element* getRoot() { return &elements_.front(); }
 
   /// Declares a namespace on the root element. The same prefix again changes nothing, and neither does an empty prefix
   /// or an empty namespace: a default namespace would take in the elements that are to have none.
@@ -30,11 +29,16 @@ class Document {
  private:
   friend class Element;
 
+  /// What the container can make in place.
+  struct HeldElement : Element {
+    HeldElement(Document* document, _xmlNode* node) : Element(document, node) {}
+  };
+
   Element* adopt(_xmlNode* node);
   _xmlNs* findNamespace(const FX::FXString& uri) const;
 
   _xmlDoc* document_;  // owned
-  std::vector<std::unique_ptr<Element>> elements_;
+  std::deque<HeldElement> elements_;
 };
 
 }  // namespace XMLBuilder

@@ -20,8 +20,7 @@ class Element : public Node {
   /// Sets the element's own text. For elements without children.
   void setText(const FX::FXString& text);
 
- private:
-  friend class Document;
+ protected:
   using Node::Node;
 };
 
