@@ -17,11 +17,6 @@ struct Letter {
 constexpr Letter kLetters[] = {{"á", "a"}, {"é", "e"}, {"í", "i"}, {"ó", "o"}, {"ö", "o"},
                                {"ő", "o"}, {"ú", "u"}, {"ü", "u"}, {"ű", "u"}};
 
-FXString folded(const FXString& text) {
-  FXString result(text);
-  return result.lower();
-}
-
 FXString withoutAccents(const FXString& text) {
   FXString result(text);
   for (const Letter& letter : kLetters) result.substitute(letter.accented, letter.plain);
@@ -60,6 +55,11 @@ int compareNaturally(const FXString& one, const FXString& other) {
 }
 
 }  // namespace
+
+FXString folded(const FXString& text) {
+  FXString result(text);
+  return result.lower();
+}
 
 bool comesBefore(const FXString& one, const FXString& other) {
   const FXString a = folded(one);

@@ -21,11 +21,6 @@ constexpr const char* kSelect =
     "select 3, t_suite_id, code, name, unit, price from t_suite";
 static_assert(GOODS_PRODUCT == 1 && GOODS_SERVICE == 2 && GOODS_SUITE == 3);
 
-FXString folded(const FXString& text) {
-  FXString result(text);
-  return result.lower();
-}
-
 }  // namespace
 
 class GoodsCatalogue::Loader : public DataBaseValueLoader {

@@ -2,7 +2,6 @@
 
 #include <libintl.h>
 
-#include "app/ErrorText.h"
 #include "app/NewInvoice.h"
 #include "app/window/Dialogs.h"
 #include "app/window/InvoiceEditForm.h"
@@ -71,7 +70,7 @@ InvoiceEditForm* InvoiceActions::saveAndOpen(std::unique_ptr<Invoice> invoice, c
     const WaitCursor wait(&workspace_.getApp());
     result = saveUnderFreeNumber(workspace_.getDatabase(), workspace_.getRepository(), *invoice, mark);
   }
-  if (!tell(result, invoice->getNumber())) return nullptr;
+  if (!workspace_.tellResult(owner_, result, invoice->getNumber())) return nullptr;
   workspace_.notifyChanged();
   return open(invoice->getId());
 }
@@ -106,7 +105,8 @@ bool InvoiceActions::storno(int id) {
   }
   const FXString question = fillIn(gettext("A stornó nem vonható vissza.\n\nStornózza ezt a számlát: %s?"), {number});
   if (!Dialogs::confirm(owner_, gettext("Stornózás"), question)) return false;
-  if (!tell(workspace_.getRepository().changeStatus(*invoice, STATUS_STORNO), number)) return false;
+  if (!workspace_.tellResult(owner_, workspace_.getRepository().changeStatus(*invoice, STATUS_STORNO), number))
+    return false;
   if (InvoiceEditForm* form = findForm(id)) form->reload();
   workspace_.notifyChanged();
   return true;
@@ -126,7 +126,7 @@ bool InvoiceActions::remove(int id) {
   const FXString question = fillIn(
       gettext("A számla a tételeivel és a rögzített adatokkal együtt törlődik.\n\nTörli ezt a számlát: %s?"), {number});
   if (!Dialogs::confirm(owner_, gettext("Törlés"), question)) return false;
-  if (!tell(workspace_.getRepository().remove(*invoice), number)) return false;
+  if (!workspace_.tellResult(owner_, workspace_.getRepository().remove(*invoice), number)) return false;
   workspace_.notifyChanged();
   return true;
 }
@@ -159,16 +159,9 @@ std::unique_ptr<Invoice> InvoiceActions::load(int id) {
     refuse(gettext("Ezt a számlát közben más törölte."));
     workspace_.notifyChanged();
   } else {
-    tell(result, "#" + FX::FXStringVal(id));
+    workspace_.tellResult(owner_, result, "#" + FX::FXStringVal(id));
   }
   return invoice;
-}
-
-bool InvoiceActions::tell(Result result, const FXString& number) {
-  if (workspace_.showErrors(owner_)) return false;
-  if (result == Result::Done) return true;
-  const FXString text = describe(result, number);
-  return refuse(text.empty() ? fillIn(gettext("A művelet nem sikerült: %s."), {number}) : text);
 }
 
 bool InvoiceActions::refuse(const FXString& error) {

@@ -38,7 +38,6 @@ class InvoiceActions {
   bool saveForm(int id);
   std::unique_ptr<Invoice> load(int id);
   InvoiceEditForm* saveAndOpen(std::unique_ptr<Invoice> invoice, const FX::FXString& mark);
-  bool tell(InvoiceRepository::Result result, const FX::FXString& number);
   bool refuse(const FX::FXString& error);
 
   Workspace& workspace_;

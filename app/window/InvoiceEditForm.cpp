@@ -236,12 +236,7 @@ bool InvoiceEditForm::saveChanges() {
 }
 
 bool InvoiceEditForm::tell(Result result) {
-  if (workspace_.showErrors(this)) return false;
-  if (result == Result::Done) return true;
-  const FXString number = editor_.getInvoice().getDisplayText();
-  const FXString text = describe(result, number);
-  Dialogs::showError(this, text.empty() ? fillIn(gettext("A művelet nem sikerült: %s."), {number}) : text);
-  return false;
+  return workspace_.tellResult(this, result, editor_.getInvoice().getDisplayText());
 }
 
 void InvoiceEditForm::reload() {

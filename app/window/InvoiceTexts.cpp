@@ -16,8 +16,6 @@ namespace {
 constexpr int kOutgoing = 101;
 constexpr int kOutgoingOffer = 102;
 constexpr int kIncoming = 201;
-constexpr int kWholeDigits = 12;
-constexpr int kPlaces = 4;
 
 int daysOf(int year, int month) {
   static constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -70,26 +68,6 @@ bool isDate(const FXString& text) {
   const FX::FXint month = FX::FXIntVal(text.mid(5, 2));
   const FX::FXint day = FX::FXIntVal(text.mid(8, 2));
   return year >= 1 && month >= 1 && month <= 12 && day >= 1 && day <= daysOf(year, month);
-}
-
-bool readDecimal(const FXString& typed, FXString& number) {
-  FXString text(typed);
-  text.trim();
-  text.substitute(',', '.');
-  int whole = 0;
-  int places = -1;
-  for (FX::FXint i = text[0] == '-' ? 1 : 0; i < text.length(); ++i) {
-    if (text[i] == '.' && places < 0) {
-      places = 0;
-    } else if (std::isdigit(static_cast<unsigned char>(text[i])) == 0) {
-      return false;
-    } else {
-      ++(places < 0 ? whole : places);
-    }
-  }
-  if (whole == 0 || whole > kWholeDigits || places == 0 || places > kPlaces) return false;
-  number = text;
-  return true;
 }
 
 FXString fileNameFor(const FXString& number, const char* ending) {

@@ -16,10 +16,6 @@ const std::vector<int>& offeredTypes();
 /// Whether a date is a real one and written as YYYY-MM-DD.
 bool isDate(const FX::FXString& text);
 
-/// Turns what a person typed into a decimal number's text, with "." and without blanks. False when it is none, or has
-/// more digits than quantities are kept with.
-bool readDecimal(const FX::FXString& typed, FX::FXString& number);
-
 /// A name for a file about the invoice of that number, without what file names cannot have.
 FX::FXString fileNameFor(const FX::FXString& number, const char* ending);
 

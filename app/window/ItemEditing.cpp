@@ -8,9 +8,9 @@
 #include "app/ErrorText.h"
 #include "app/window/Dialogs.h"
 #include "app/window/InvoiceEditForm.h"
-#include "app/window/InvoiceTexts.h"
 #include "app/window/ItemGrid.h"
 #include "app/window/Workspace.h"
+#include "host/entity/TypedDecimal.h"
 #include "host/message/FillIn.h"
 
 namespace Brontel::App {

@@ -18,15 +18,6 @@ rowListMap[] = {
 
 FXIMPLEMENT(RowList, FXIconList, rowListMap, ARRAYNUMBER(rowListMap))
 
-namespace {
-
-FXString folded(const FXString& text) {
-  FXString result(text);
-  return result.lower();
-}
-
-}  // namespace
-
 RowList::RowList(FX::FXComposite* parent, FX::FXObject* receiver, FX::FXSelector sel, const FXString& section)
     : FXIconList(parent, receiver, sel,
                  FX::ICONLIST_DETAILED | FX::ICONLIST_BROWSESELECT | FX::LAYOUT_FILL_X | FX::LAYOUT_FILL_Y),

@@ -34,7 +34,6 @@ class RowList : public FX::FXIconList {
   int getCurrentId() const;
   /// Makes the row with that key current, if it is shown.
   void setCurrentId(int id);
-  int countShown() const { return getNumItems(); }
 
   /// Remembers widths and order.
   void saveLayout() const;

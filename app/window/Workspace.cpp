@@ -2,8 +2,12 @@
 
 #include <algorithm>
 
+#include <libintl.h>
+
+#include "app/ErrorText.h"
 #include "app/window/Dialogs.h"
 #include "app/window/OpenWindow.h"
+#include "host/message/FillIn.h"
 
 namespace Brontel::App {
 
@@ -59,6 +63,14 @@ bool Workspace::showErrors(FX::FXWindow* owner) {
   database_.errors().forget();
   Dialogs::showError(owner, text);
   return true;
+}
+
+bool Workspace::tellResult(FX::FXWindow* owner, InvoiceRepository::Result result, const FX::FXString& number) {
+  if (showErrors(owner)) return false;
+  if (result == InvoiceRepository::Result::Done) return true;
+  const FX::FXString text = describe(result, number);
+  Dialogs::showError(owner, text.empty() ? fillIn(gettext("A művelet nem sikerült: %s."), {number}) : text);
+  return false;
 }
 
 void Workspace::databaseFailed(const Database::DatabaseError& error) {

@@ -54,6 +54,8 @@ class Workspace : public FX::FXObject, public Database::DatabaseErrorSink {
   /// Shows the first failure of the database since the last call and forgets the others, which are usually its
   /// consequences. False when there was none.
   bool showErrors(FX::FXWindow* owner);
+  /// Shows why something that was done to the invoice of that number failed. True, and nothing shown, when it did not.
+  bool tellResult(FX::FXWindow* owner, InvoiceRepository::Result result, const FX::FXString& number);
   bool hasErrors() const { return database_.errors().hasError(); }
   void databaseFailed(const Database::DatabaseError& error) override;
 

@@ -1,12 +1,12 @@
 #include "host/ui/GoodsDataWindow.h"
 
-#include <cctype>
-
 #include <fxkeys.h>
 #include <libintl.h>
 
 #include "host/database/MorvaneDatabase.h"
 #include "host/database/Transaction.h"
+#include "host/entity/TypedDecimal.h"
+#include "host/message/FillIn.h"
 #include "host/ui/Legibility.h"
 
 namespace Brontel {
@@ -31,21 +31,6 @@ namespace {
 constexpr FXint kWidth = 620;
 constexpr FXint kHeight = 520;
 constexpr int kFewestLetters = 20;  // of the field that takes the rest of the width
-
-// A number with an optional fraction; people write the fraction behind a comma or a point.
-bool isPrice(const FXString& text) {
-  bool hasDigit = false;
-  bool hasMark = false;
-  for (FXint i = 0; i < text.length(); ++i) {
-    const bool isDigit = std::isdigit(static_cast<unsigned char>(text[i])) != 0;
-    const bool isMark = (text[i] == ',' || text[i] == '.') && !hasMark && hasDigit;
-    const bool isSign = text[i] == '-' && i == 0;
-    if (!isDigit && !isMark && !isSign) return false;
-    hasDigit = hasDigit || isDigit;
-    hasMark = hasMark || isMark;
-  }
-  return hasDigit && std::isdigit(static_cast<unsigned char>(text[text.length() - 1])) != 0;
-}
 
 FXString trimmed(const FXTextField* field) {
   return field->getText().trim();
@@ -172,12 +157,11 @@ bool GoodsDataWindow::refuse(FXTextField* field, const FXString& text) {
   return false;
 }
 
-bool GoodsDataWindow::checkRecord(const Goods& record) {
-  if (record.name.empty()) return refuse(name_, gettext("Adja meg a megnevezést."));
-  if (!record.price.empty() && !isPrice(record.price)) {
-    return refuse(price_, gettext("Az ár egy szám legyen, például 1250 vagy 99,50."));
-  }
-  return true;
+bool GoodsDataWindow::readPrice(Goods& record) {
+  // A price that was stored by something else is nobody's mistake here.
+  if (record.price.empty() || record.price == record_.price || readDecimal(record.price, record.price)) return true;
+  return refuse(price_,
+                fillIn(gettext("Ez nem ár: %s. Legfeljebb 12 egész és 4 tizedes számjegyet írjon."), {record.price}));
 }
 
 bool GoodsDataWindow::save() {
@@ -187,8 +171,8 @@ bool GoodsDataWindow::save() {
   record.name = trimmed(name_);
   record.unit = trimmed(unit_);
   record.price = trimmed(price_);
-  if (!checkRecord(record)) return false;
-  record.price.substitute(',', '.');
+  if (record.name.empty()) return refuse(name_, gettext("Adja meg a megnevezést."));
+  if (!readPrice(record)) return false;
   if (!store(record)) return false;
   record_ = record;
   isSaved_ = true;

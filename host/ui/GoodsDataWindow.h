@@ -58,7 +58,7 @@ class GoodsDataWindow : public PanelisedWindow {
   FX::FXTextField* addField(FX::FXComposite* parent, const char* label, int columns);
   void showRecord();
   Goods typedRecord() const;
-  bool checkRecord(const Goods& record);
+  bool readPrice(Goods& record);
   bool refuse(FX::FXTextField* field, const FX::FXString& text);
   bool store(Goods& record);
   void closeSoon();

@@ -17,22 +17,6 @@ TEST(InvoiceTextsTest, knowsADate) {
   }
 }
 
-TEST(InvoiceTextsTest, readsADecimalAsPeopleWriteIt) {
-  const std::pair<const char*, const char*> good[] = {
-      {"2", "2"}, {" 2,5 ", "2.5"}, {"-0.1234", "-0.1234"}, {"123456789012", "123456789012"}};
-  for (const auto& [typed, expected] : good) {
-    FXString number;
-    EXPECT_TRUE(App::readDecimal(typed, number)) << typed;
-    EXPECT_STREQ(number.text(), expected);
-  }
-  for (const char* typed :
-       {"", " ", "-", ".", "1.", ".5", "1.2.3", "1,2,3", "1.23456", "1234567890123", "1e3", "1 2", "--1", "+1", "1é"}) {
-    FXString number = "old";
-    EXPECT_FALSE(App::readDecimal(typed, number)) << typed;
-    EXPECT_STREQ(number.text(), "old");
-  }
-}
-
 TEST(InvoiceTextsTest, namesTypesAndStatuses) {
   for (const int type : App::offeredTypes()) EXPECT_FALSE(App::nameOfType(type).empty());
   EXPECT_STREQ(App::nameOfType(451).text(), "451. típus");

@@ -119,6 +119,13 @@ TEST_F(GoodsDataWindowTest, storesPricesWithADecimalPoint) {
   EXPECT_EQ(stored(), "7 SZ Szék db 99.50 2");
 }
 
+TEST_F(GoodsDataWindowTest, leavesAStoredPriceThatIsNoneAsItIs) {
+  database.exec("update t_product set price='1.23456' where t_product_id=7");
+  open(7)->getUnitField()->setText("fő");
+  user.key(FX::KEY_o, {FX::KEY_Alt_L});
+  EXPECT_EQ(stored(), "7 SZ Szék fő 1.23456 2");
+}
+
 TEST_F(GoodsDataWindowTest, goesToWhatIsMissingOrWrong) {
   ProductDataWindow* window = open(7);
   window->getTabs()->setCurrent(1, TRUE);
@@ -127,6 +134,7 @@ TEST_F(GoodsDataWindowTest, goesToWhatIsMissingOrWrong) {
                                            {"a", "sok", window->getPriceField()},
                                            {"a", "1,", window->getPriceField()},
                                            {"a", "1.2.3", window->getPriceField()},
+                                           {"a", "1,23456", window->getPriceField()},
                                            {"a", "-", window->getPriceField()}}) {
     window->getNameField()->setText(name);
     window->getPriceField()->setText(price);
