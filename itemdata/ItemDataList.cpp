@@ -71,9 +71,11 @@ void ItemDataList::settle() {
 }
 
 void ItemDataList::dropSeeds() {
+  // Seeds and the copies that replace them stand before the rows. What stands behind is no such copy, and dropping a
+  // cell for its sake would move the rows away from firstRowIndex.
   std::unordered_map<FXint, FXint> lastOf;
-  for (FXint i = 0; i < no(); ++i) {
-    if (at(i) != nullptr && at(i)->row == 0) lastOf[at(i)->itemvariable] = i;
+  for (FXint i = 0; i < no() && (at(i) == nullptr || at(i)->row == 0); ++i) {
+    if (at(i) != nullptr) lastOf[at(i)->itemvariable] = i;
   }
   FXint kept = 0;
   for (FXint i = 0; i < no(); ++i) {

@@ -46,21 +46,31 @@ FX::FXIcon* ItemDataContainer::getIcon16() {
   return icon16_;
 }
 
-// As get_plugin: running out of memory gives no plug-in. What was registered by then goes with the container.
 int ItemDataContainer::init() {
+  bool registered = Prototypes::isRegistered(this);
   try {
-    if (!Prototypes::isRegistered(this)) {
-      modules_.append(new ItemDataAssociationPanel::Plugin(this));
-      modules_.append(new InvoiceCheck(this));
-      modules_.append(new InvoiceItemMenu(this));
-      modules_.append(new InvoiceItemPlugin(this, kWeight, kWeight, 0, kWeight, kWeight));
-      Prototypes::add(this);
-    }
+    if (!registered) registerAll();
+    registered = true;
     if (getApp() != nullptr) Model::initDB(getApp()->getDB());
-    return 1;
   } catch (...) {
-    return 0;
+    // Out of memory. Half of what is registered would show what is stored as missing.
+    if (!registered) removeAll();
   }
+  return 1;
+}
+
+void ItemDataContainer::registerAll() {
+  modules_.append(new ItemDataAssociationPanel::Plugin(this));
+  modules_.append(new InvoiceCheck(this));
+  modules_.append(new InvoiceItemMenu(this));
+  modules_.append(new InvoiceItemPlugin(this, kWeight, kWeight, 0, kWeight, kWeight));
+  Prototypes::add(this);
+}
+
+void ItemDataContainer::removeAll() {
+  Prototypes::remove(this);
+  for (FX::FXint i = modules_.no() - 1; i >= 0; --i) delete modules_[i];
+  modules_.clear();
 }
 
 long ItemDataContainer::onSettings(FX::FXObject*, FX::FXSelector, void*) {

@@ -15,14 +15,17 @@ class ItemDataContainer : public PluginContainer {
   ~ItemDataContainer() override;
 
   FX::FXIcon* getIcon16() override;
-  /// 1, also when tables are missing: they show as missing data and are tried again at the next start. 0 without
-  /// memory. Again on the same container it only looks after the tables.
+  /// Always 1. Tables that could not be made show as missing data and are tried again at the next start; without memory
+  /// for all modules and prototypes there are none. Again on the same container it only looks after what is missing.
   int init() override;
   /// Lets the user edit the item variables and stores them. 1 also when the user changes their mind.
   long onSettings(FX::FXObject*, FX::FXSelector, void*) override;
   long onHasSettings(FX::FXObject*, FX::FXSelector, void*) override;
 
  private:
+  void registerAll();
+  void removeAll();
+
   FX::FXIcon* icon16_ = nullptr;  // owned
 };
 

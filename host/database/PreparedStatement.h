@@ -22,7 +22,6 @@ class PreparedStatement {
 
   PreparedStatement(const PreparedStatement&) = delete;
   PreparedStatement& operator=(const PreparedStatement&) = delete;
-  ~PreparedStatement();
 
   /// Binds the values by name (a parameter without value is NULL, a value without parameter is ignored), runs to the
   /// end or until the loader asks to stop, and resets. Returns SQLite's result: SQLITE_DONE, SQLITE_ROW when the loader
@@ -35,7 +34,24 @@ class PreparedStatement {
   bool isReadOnly() const;
 
  private:
-  PreparedStatement(sqlite3_stmt* statement, std::vector<std::string> parameters);
+  struct Finalizer {
+    void operator()(sqlite3_stmt* statement) const;
+  };
+  using Handle = std::unique_ptr<sqlite3_stmt, Finalizer>;
+
+  /// As long as it lives the statement runs.
+  class Run {
+   public:
+    explicit Run(PreparedStatement& statement);
+    Run(const Run&) = delete;
+    Run& operator=(const Run&) = delete;
+    ~Run();
+
+   private:
+    PreparedStatement& statement_;
+  };
+
+  PreparedStatement(Handle statement, std::vector<std::string> parameters);
 
   const BoundValue* valueOf(size_t parameter, const BoundValues& values);
   int bind(const BoundValues& values);
@@ -46,7 +62,7 @@ class PreparedStatement {
   /// is written into digits.
   const char* textOf(int column, char* digits) const;
 
-  sqlite3_stmt* statement_;  // owned; the destructor finalizes it
+  Handle statement_;
   std::vector<std::string> parameters_;
   std::vector<size_t> places_;            // of each parameter's value the last time
   std::vector<const char*> columnNames_;  // the engine's, read anew for each run

@@ -21,10 +21,18 @@ std::string_view viewOf(const char* text) {
   return text == nullptr ? std::string_view() : std::string_view(text);
 }
 
+/// As many as there are statements at work at a time.
+constexpr size_t kMostSpares = 8;
+
 /// What statements have bound before, without the values. The next statement mostly binds the same names in the same
 /// order, and then has nothing to allocate.
 std::vector<BoundValues>& spares() {
-  static std::vector<BoundValues> kept;
+  // They are put back by destructors, which must not be in need of memory then.
+  static std::vector<BoundValues> kept = [] {
+    std::vector<BoundValues> room;
+    room.reserve(kMostSpares);
+    return room;
+  }();
   return kept;
 }
 
@@ -42,8 +50,6 @@ BoundValues takeSpare() {
 }
 
 void keepSpare(BoundValues&& values) {
-  // As many as there are statements at work at a time.
-  constexpr size_t kMostSpares = 8;
   if (values.empty() || spares().size() >= kMostSpares) return;
   for (BoundValue& value : values) {
     value.isText = false;

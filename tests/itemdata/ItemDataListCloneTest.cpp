@@ -240,6 +240,18 @@ TEST_F(ItemDataListCloneTest, settlingLosesNoneOfTwoValuesForOnePlace) {
                                   "12/2=S2 again", "11/0=M again"}));
 }
 
+TEST_F(ItemDataListCloneTest, settlingAgainKeepsACellThatWasEmptiedMeanwhile) {
+  ItemDataList& source = filledList();
+  add(source, TYPE_TEXT, 11, 0, "M again", 32);
+  ItemDataList& copy = copyOf(source);
+  copy.settle();
+  copy[0]->value = "";
+  copy.settle();
+  EXPECT_EQ(cellsOf(copy).front(), "11/0=");
+  EXPECT_EQ(copy.firstRowIndex, 1);
+  EXPECT_EQ(copy[1]->row, 1);
+}
+
 TEST_F(ItemDataListCloneTest, settlingLosesNoRowThatRepeatsAnother) {
   ItemDataList& source = filledList();
   add(source, TYPE_QUANTITY, VARIABLE_QUANTITY, 2, "3", 31);
