@@ -45,7 +45,7 @@ bool HostDatabase::open(const FXString& path, Use use) {
   }
   if (!isThere && use == Use::IfPresent) return true;
   if (!isThere && use != Use::Create) {
-    return refuse(gettext("Nincs ilyen adatbázis: %s. Ez hozza létre: brontel-host init"));
+    return refuse(gettext("Nincs ilyen adatbázis: %1$s. Ez hozza létre: brontel-host --database \"%1$s\" init"));
   }
   if (!isThere && !makeFolderOf(file)) {
     return refuse(gettext("Az adatbázis mappája nem hozható létre: %s. Ellenőrizze a jogosultságokat."));
@@ -82,7 +82,8 @@ bool HostDatabase::checkContent(Use use) {
   }
   if (!checkVersion(use)) return false;
   if (use == Use::Create || (ours == Schema::Extent::All && versionBefore_ == kVersion)) return true;
-  return refuse(gettext("Az adatbázis nincs előkészítve, vagy hiányos: %s. Ez egészíti ki: brontel-host init"));
+  return refuse(gettext(
+      "Az adatbázis nincs előkészítve, vagy hiányos: %1$s. Ez egészíti ki: brontel-host --database \"%1$s\" init"));
 }
 
 bool HostDatabase::checkVersion(Use use) {

@@ -32,9 +32,15 @@ void addItem(XMLBuilder::Element& items, InvoiceItem& item, int position, const 
   plugins.toXml(&item, element);
 }
 
-bool isSameFile(const FXString& one, const FXString& other) {
-  std::error_code error;
-  return std::filesystem::equivalent(one.text(), other.text(), error);
+// Whether it is the database's file or one of those that the engine keeps beside it; those need not be there yet.
+bool isOfDatabase(const FXString& file, const FXString& database) {
+  const auto sameFile = [&](const char* ending) {
+    const std::filesystem::path own((database + ending).text());
+    std::error_code error;
+    return std::filesystem::equivalent(file.text(), own, error) ||
+           std::filesystem::weakly_canonical(file.text(), error) == std::filesystem::weakly_canonical(own, error);
+  };
+  return sameFile("") || sameFile("-wal") || sameFile("-shm") || sameFile("-journal");
 }
 
 }  // namespace
@@ -57,8 +63,8 @@ FXString toXml(const Invoice& invoice, const Plugin::PluginRegistry& plugins) {
 }
 
 FXString writeExport(const FXString& file, const FXString& text, HostDatabase& database) {
-  if (isSameFile(file, database.handle().getPath())) {
-    return fillIn(gettext("Ez maga az adatbázis, nem írható felül: %s. Adjon meg másik fájlt."), {file});
+  if (isOfDatabase(file, database.handle().getPath())) {
+    return fillIn(gettext("Ez az adatbázis része, nem írható felül: %s. Adjon meg másik fájlt."), {file});
   }
   return replaceFile(file, text);
 }

@@ -1,4 +1,5 @@
-# What the project needs of the system, by Debian's and Ubuntu's package names. Sourced by run, test and .ci/run.
+# What the project needs of the system, by Debian's and Ubuntu's package names. Sourced by every
+# script that builds.
 # shellcheck shell=bash disable=SC2034
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libfox-1.6-dev libpango1.0-dev libsqlite3-dev

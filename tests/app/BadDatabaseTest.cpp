@@ -30,7 +30,8 @@ class BadDatabaseTest : public AppTest {
 TEST_F(BadDatabaseTest, AMissingOneIsOnlyMadeByInit) {
   for (const Arguments& arguments : allCommands()) {
     if (arguments.front() == "init" || arguments.front() == "plugins") continue;
-    expectRefused(arguments, "Nincs ilyen adatbázis: " + database + ". Ez hozza létre: brontel-host init");
+    expectRefused(arguments, "Nincs ilyen adatbázis: " + database + ". Ez hozza létre: brontel-host --database \"" +
+                                 database + "\" init");
   }
   EXPECT_TRUE(files().empty());
 }
@@ -60,7 +61,7 @@ TEST_F(BadDatabaseTest, ALongTextFileIsRefused) {
 TEST_F(BadDatabaseTest, AnEmptyFileIsNotPreparedYet) {
   static_cast<void>(directory.write("brontel.db", ""));
   expectAllButInitRefused("Az adatbázis nincs előkészítve, vagy hiányos: " + database +
-                          ". Ez egészíti ki: brontel-host init");
+                          ". Ez egészíti ki: brontel-host --database \"" + database + "\" init");
 }
 
 TEST_F(BadDatabaseTest, OneCutInsideAPageIsDamaged) {
@@ -98,8 +99,8 @@ TEST_F(BadDatabaseTest, ThatOfAnotherProgramIsRefused) {
 }
 
 TEST_F(BadDatabaseTest, OneThatLacksATableOrAColumnIsIncomplete) {
-  const std::string error =
-      "Az adatbázis nincs előkészítve, vagy hiányos: " + database + ". Ez egészíti ki: brontel-host init";
+  const std::string error = "Az adatbázis nincs előkészítve, vagy hiányos: " + database +
+                            ". Ez egészíti ki: brontel-host --database \"" + database + "\" init";
   for (const char* damage : {"drop table t_service", "alter table t_invoiceitem drop column price",
                              "alter table t_product drop column version"}) {
     SCOPED_TRACE(damage);

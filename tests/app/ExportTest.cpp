@@ -159,9 +159,10 @@ TEST_F(ExportTest, TheDatabaseItselfIsNeverOverwritten) {
   makeSample();
   const std::string link = directory.path("link.xml");
   std::filesystem::create_symlink(database, link);
-  for (const std::string& file : {database, link, directory.path() + "/./brontel.db"}) {
+  for (const std::string& file : {database, link, directory.path() + "/./brontel.db", database + "-wal",
+                                  database + "-shm", database + "-journal"}) {
     expectRefused({"export", "1", "-o", file},
-                  "Ez maga az adatbázis, nem írható felül: " + file + ". Adjon meg másik fájlt.");
+                  "Ez az adatbázis része, nem írható felül: " + file + ". Adjon meg másik fájlt.");
   }
 }
 

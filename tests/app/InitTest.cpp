@@ -56,8 +56,8 @@ TEST_F(InitTest, WhatIsMissingIsAddedAndTheRestStays) {
   makeSample();
   const std::string before = TestDatabase::dumpOf(database);
   exec("drop table t_suite; alter table t_invoice drop column partner");
-  expectRefused({"list"},
-                "Az adatbázis nincs előkészítve, vagy hiányos: " + database + ". Ez egészíti ki: brontel-host init");
+  expectRefused({"list"}, "Az adatbázis nincs előkészítve, vagy hiányos: " + database +
+                              ". Ez egészíti ki: brontel-host --database \"" + database + "\" init");
   EXPECT_EQ(output({"init"}), naming("Kiegészült az adatbázis: "));
   EXPECT_EQ(rows("select number, partner from t_invoice where t_invoice_id=3"), (Rows{{"B-2025/0042", "NULL"}}));
   EXPECT_EQ(text("select count(*) from t_suite"), "0");
@@ -68,8 +68,8 @@ TEST_F(InitTest, WhatIsMissingIsAddedAndTheRestStays) {
 TEST_F(InitTest, AnInterruptedOneIsRepeated) {
   output({"init"});
   exec("pragma user_version=0");
-  expectRefused({"list"},
-                "Az adatbázis nincs előkészítve, vagy hiányos: " + database + ". Ez egészíti ki: brontel-host init");
+  expectRefused({"list"}, "Az adatbázis nincs előkészítve, vagy hiányos: " + database +
+                              ". Ez egészíti ki: brontel-host --database \"" + database + "\" init");
   EXPECT_EQ(output({"init"}), naming("Kiegészült az adatbázis: "));
   EXPECT_EQ(output({"list"}), "");
 }

@@ -191,7 +191,7 @@ TEST_F(PrintPdfTest, WhereNoFileCanBeNothingIsWritten) {
   const std::string missing = directory.path("none/invoice.pdf");
   expectRefusedFile(missing, "A fájl nem írható: " + missing + ". Ellenőrizze a mappáját és a jogosultságokat.");
   expectRefusedFile("/dev/full", "Megtelt a lemez, a fájl nem készült el: /dev/full. Szabadítson fel helyet.");
-  expectRefusedFile(database, "Ez maga az adatbázis, nem írható felül: " + database + ". Adjon meg másik fájlt.");
+  expectRefusedFile(database, "Ez az adatbázis része, nem írható felül: " + database + ". Adjon meg másik fájlt.");
 }
 
 TEST_F(PrintPdfTest, AFileThatCannotBeReplacedStaysAsItWas) {
