@@ -42,6 +42,12 @@ bool isPlain(const FX::FXEvent& event) {
   return (event.state & (FX::SHIFTMASK | FX::CONTROLMASK | FX::ALTMASK)) == 0;
 }
 
+// Of the settings.
+const FX::FXchar* sectionOf(GoodsKind kind) {
+  if (kind == GOODS_PRODUCT) return "ProductList";
+  return kind == GOODS_SERVICE ? "ServiceList" : "SuiteList";
+}
+
 // The list's columns are divided by tabs.
 FXString lineOf(const Goods& goods) {
   return toOneLine(goods.code) + "\t" + toOneLine(goods.name) + "\t" + toOneLine(goods.unit) + "\t" +
@@ -88,9 +94,13 @@ void GoodsListFrame::buildList() {
 void GoodsListFrame::create() {
   const bool isNew = id() == 0;
   FXVerticalFrame::create();
-  if (isNew) scaleHeaders(*list_->getHeader());
+  if (isNew) restoreHeaders(*list_->getHeader(), sectionOf(kind_));
   fitHeaders(*list_->getHeader());
   if (!isFilled_) refresh();
+}
+
+void GoodsListFrame::saveLayout() const {
+  saveHeaders(*list_->getHeader(), sectionOf(kind_));
 }
 
 void GoodsListFrame::refresh() {

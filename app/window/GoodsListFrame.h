@@ -22,6 +22,8 @@ class GoodsListFrame : public FX::FXVerticalFrame {
 
   /// Reads the list again and keeps the place in it.
   void refresh();
+  /// Remembers the widths of the list's columns, for each kind of goods its own.
+  void saveLayout() const;
   void create() override;
 
   FX::FXTextField* getSearchField() const { return search_; }

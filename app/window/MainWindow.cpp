@@ -209,6 +209,7 @@ void MainWindow::savePlace() {
   settings.writeIntEntry(kSection, "height", getHeight());
   settings.writeIntEntry(kSection, "page", getPage());
   invoices_->getList()->saveLayout();
+  for (const GoodsListFrame* goods : goods_) goods->saveLayout();
   found_->getList()->saveLayout();
 }
 

@@ -26,13 +26,8 @@ RowList::RowList(FX::FXComposite* parent, FX::FXObject* receiver, FX::FXSelector
   descending_ = getApp()->reg().readIntEntry(section_.text(), "descending", 0) != 0;
 }
 
-FXString RowList::widthKey(FXint column) const {
-  return "width" + FX::FXStringVal(column);
-}
-
 void RowList::addColumn(const FXString& title, FXint width) {
-  const FXint remembered = getApp()->reg().readIntEntry(section_.text(), widthKey(getNumHeaders()).text(), width);
-  appendHeader(title, nullptr, std::max(remembered, 10));
+  appendHeader(title, nullptr, width);
 }
 
 void RowList::setDefaultOrder(FXint column, bool descending) {
@@ -44,8 +39,7 @@ void RowList::setDefaultOrder(FXint column, bool descending) {
 void RowList::create() {
   const bool isNew = id() == 0;
   FXIconList::create();
-  // Widths that somebody has left are those that they want.
-  if (isNew && !getApp()->reg().existingEntry(section_.text(), widthKey(0).text())) scaleHeaders(*getHeader());
+  if (isNew) restoreHeaders(*getHeader(), section_);
   fitHeaders(*getHeader());
   fill();
 }
@@ -112,9 +106,7 @@ void RowList::setCurrentId(int id) {
 
 void RowList::saveLayout() const {
   FX::FXRegistry& settings = getApp()->reg();
-  for (FXint i = 0; i < getNumHeaders(); ++i) {
-    settings.writeIntEntry(section_.text(), widthKey(i).text(), getHeaderSize(i));
-  }
+  saveHeaders(*getHeader(), section_);
   settings.writeIntEntry(section_.text(), "sort", sortColumn_);
   settings.writeIntEntry(section_.text(), "descending", descending_ ? 1 : 0);
 }

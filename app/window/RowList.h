@@ -47,7 +47,6 @@ class RowList : public FX::FXIconList {
  private:
   void fill();
   void sortRows();
-  FX::FXString widthKey(FX::FXint column) const;
 
   FX::FXString section_;
   std::vector<Row> rows_;
