@@ -195,9 +195,11 @@ long GoodsListFrame::onMenu(FX::FXObject*, FX::FXSelector, void* ptr) {
     list_->setCurrentItem(line);
     list_->selectItem(line);
   }
-  KeyboardMenu pane(getShell());
-  new FX::FXMenuCommand(&pane, gettext("Ú&j..."), workspace_->getApp().getNewRowIcon(), this, ID_NEW);
-  new FX::FXMenuCommand(&pane, gettext("S&zerkesztés..."), nullptr, this, ID_EDIT);
+  // An entry enters its key into the table of keys of the menu's owner, if that has one, and takes it out again when it
+  // goes. The list has none: the keys are its own, and not for the fields beside it.
+  KeyboardMenu pane(list_);
+  new FX::FXMenuCommand(&pane, gettext("Ú&j...\tIns"), workspace_->getApp().getNewRowIcon(), this, ID_NEW);
+  new FX::FXMenuCommand(&pane, gettext("S&zerkesztés...\tEnter"), nullptr, this, ID_EDIT);
   pane.create();
   pane.popup(nullptr, event.root_x, event.root_y);
   getApp()->runModalWhileShown(&pane);

@@ -114,6 +114,27 @@ TEST_F(GoodsListFrameTest, opensByDoubleClickEnterKeyButtonAndMenu) {
   EXPECT_EQ(newest(), nullptr);
 }
 
+TEST_F(GoodsListFrameTest, theMenuShowsKeysWithoutTakingThemFromTheWindow) {
+  const GoodsListFrame& frame = show();
+  const FX::FXAccelTable& keys = *main_->getAccelTable();
+  const FX::FXHotKey taken = FX::parseAccel("Ins");
+  const FX::FXHotKey free = FX::parseAccel("Enter");
+  main_->getAccelTable()->addAccel(taken, main_);
+  Texts shown;
+  user.whenModal([&](FX::FXWindow& menu) {
+    for (const FX::FXMenuCommand* entry : descendantsOf<FX::FXMenuCommand>(&menu)) {
+      shown.emplace_back(entry->getAccelText().text());
+    }
+    EXPECT_EQ(keys.targetOfAccel(taken), main_);
+    EXPECT_FALSE(keys.hasAccel(free));
+    user.key(FX::KEY_Escape);
+  });
+  user.clickAt(frame.getList(), 30, frame.getList()->getHeader()->getHeight() + 5, 3);
+  EXPECT_EQ(shown, (Texts{"Ins", "Enter"}));
+  EXPECT_EQ(keys.targetOfAccel(taken), main_);
+  EXPECT_FALSE(keys.hasAccel(free));
+}
+
 TEST_F(GoodsListFrameTest, opensANewOneByInsAndButton) {
   const GoodsListFrame& frame = show(Brontel::GOODS_SERVICE);
   frame.getList()->setFocus();
