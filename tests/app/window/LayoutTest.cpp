@@ -7,11 +7,13 @@
 #include <fxkeys.h>
 
 #include "app/window/Dialogs.h"
+#include "app/window/GoodsListFrame.h"
 #include "app/window/GoodsWindow.h"
 #include "app/window/OpenWindow.h"
 #include "app/window/ProgressWindow.h"
 #include "fxext/widgets/gallery/Picture.h"
 #include "host/ui/GoodsDataWindow.h"
+#include "tests/app/print/ToolFolder.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/LayoutWalk.h"
 #include "tests/support/SpokenLanguage.h"
@@ -165,6 +167,14 @@ TEST_P(LayoutTest, theMainWindow) {
     window.showPage(page);
     look(window, "main" + std::to_string(page));
   }
+  FXint kind = 0;
+  for (const Brontel::App::GoodsListFrame* goods : descendantsOf<Brontel::App::GoodsListFrame>(&window)) {
+    ++kind;
+    window.showPage(MainWindow::PAGE_INVOICES + kind);
+    lookAtNext("main-goods-menu" + std::to_string(kind));
+    user.click(goods->getList(), 3);
+  }
+  EXPECT_EQ(kind, 3);
   lookAtMenusOf(window, "main");
   window.position(0, 0, GetParam().width, GetParam().height);
   for (FXint page = 0; page < MainWindow::PAGES; ++page) {
@@ -200,6 +210,23 @@ TEST_P(LayoutTest, theInvoiceForm) {
   form.getGrid()->cancelInput();
   lookAtNext("form-storno");
   command(form, InvoiceEditForm::ID_CLOSE_INVOICE);
+}
+
+TEST_P(LayoutTest, thePrinters) {
+  const ToolFolder tools;
+  tools.add("lpstat",
+            "echo Titkarsagi-szines-lezernyomtato-es-fenymasolo-a-regi-epulet-harmadik-emeleten-A3;"
+            "for floor in 1 2 3 4 5 6 7 8 9 10 11 12; do echo Nyomtato-a-$floor-emeleten; done");
+  user.whenModal([this](FXWindow&) {
+    user.whenModal([this](FXWindow& dialog) {
+      look(dialog, "printers");
+      lookAtPanesIn(dialog, "printers");
+      user.key(FX::KEY_Escape);
+    });
+    user.key(FX::KEY_p, {FX::KEY_Control_L});
+    user.key(FX::KEY_Escape);
+  });
+  command(open(kComplete), InvoiceEditForm::ID_PREVIEW);
 }
 
 TEST_P(LayoutTest, theItemData) {
