@@ -20,5 +20,8 @@ bool exists(MorvaneDatabase& database);
 /// Hands every value that contains the text, in any case, to the loader, by invoice and item. False on failure.
 bool find(MorvaneDatabase& database, const FX::FXString& text, DataBaseValueLoader& loader);
 
+/// The same, with the key of the value and that of its item before the other columns.
+bool findWithKeys(MorvaneDatabase& database, const FX::FXString& text, DataBaseValueLoader& loader);
+
 }  // namespace RecordedData
 }  // namespace Brontel::App

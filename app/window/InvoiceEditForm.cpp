@@ -248,6 +248,16 @@ void InvoiceEditForm::reload() {
   proposeCheckAll();
 }
 
+void InvoiceEditForm::goToItem(int id) {
+  FXint row = 0;
+  while (row < editor_.countItems() && editor_.getItem(row).getId() != id) ++row;
+  if (row == editor_.countItems() || !acceptEditors()) return;
+  // Of a window that has just opened, the table has no height yet to scroll in.
+  layout();
+  grid_->setFocus();
+  grid_->goTo(row, ItemGrid::GOODS);
+}
+
 FX::FXbool InvoiceEditForm::close(FX::FXbool notify) {
   if (!mayClose()) return FALSE;
   getApp()->reg().writeIntEntry(kSection, "width", getWidth());

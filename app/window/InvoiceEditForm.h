@@ -48,6 +48,10 @@ class InvoiceEditForm : public InvoiceForm, public OpenWindow {
   bool saveChanges() override;
   void reload() override;
 
+  /// Makes the item with that key the current one, in view and with the keyboard. Nothing changes when there is no
+  /// such item, or when what is typed in a cell cannot be taken, which the person is told.
+  void goToItem(int id);
+
   void create() override;
   FX::FXbool close(FX::FXbool notify = FALSE) override;
 

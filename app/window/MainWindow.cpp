@@ -248,7 +248,7 @@ void MainWindow::refreshPage() {
 
 int MainWindow::getChosen() const {
   if (getPage() == PAGE_INVOICES) return invoices_->getList()->getCurrentId();
-  return getPage() == PAGE_FIND ? found_->getList()->getCurrentId() : 0;
+  return getPage() == PAGE_FIND ? found_->getInvoiceId() : 0;
 }
 
 long MainWindow::onChanged(FX::FXObject*, FX::FXSelector, void*) {
@@ -280,7 +280,11 @@ long MainWindow::onCmdNew(FX::FXObject*, FX::FXSelector, void*) {
 }
 
 long MainWindow::onCmdOpen(FX::FXObject*, FX::FXSelector, void*) {
-  if (const int id = getChosen()) actions_.open(id);
+  // Once the form is open, the search may have been made again.
+  const int item = getPage() == PAGE_FIND ? found_->getItemId() : 0;
+  const int id = getChosen();
+  InvoiceEditForm* form = id == 0 ? nullptr : actions_.open(id);
+  if (form != nullptr && item != 0) form->goToItem(item);
   return 1;
 }
 

@@ -5,6 +5,7 @@
 #include "app/RecordedData.h"
 #include "app/window/RowCollector.h"
 #include "app/window/Workspace.h"
+#include "host/database/IntegerText.h"
 #include "host/message/FillIn.h"
 #include "host/ui/WaitCursor.h"
 
@@ -21,8 +22,8 @@ FXIMPLEMENT(RecordedDataFrame, FXVerticalFrame, recordedDataFrameMap, ARRAYNUMBE
 
 namespace {
 
-// Of what the search finds, without the key.
-enum Found { NUMBER, DIRECTION, PARTNER, DATE, ITEM, VARIABLE, ROW, VALUE };
+// Of what the search finds, behind the key of the value.
+enum Found { ITEM_KEY, INVOICE_KEY, NUMBER, DIRECTION, PARTNER, DATE, ITEM, VARIABLE, ROW, VALUE };
 
 FXString nameOfDirection(const FXString& code) {
   if (code == "100") return gettext("Kimenő");
@@ -62,10 +63,12 @@ void RecordedDataFrame::refresh() {
   const WaitCursor wait(getApp());
   RowCollector found;
   if (RecordedData::exists(workspace_->getDatabase())) {
-    RecordedData::find(workspace_->getDatabase(), text, found);
+    RecordedData::findWithKeys(workspace_->getDatabase(), text, found);
   }
+  places_.clear();
   for (RowList::Row& row : found.getRows()) {
     const std::vector<FXString> cells = row.cells;
+    places_[row.id] = {Database::toInt(cells[INVOICE_KEY].text()), Database::toInt(cells[ITEM_KEY].text())};
     row.cells = {cells[VALUE],   cells[VARIABLE], cells[ITEM], cells[NUMBER], nameOfDirection(cells[DIRECTION]),
                  cells[PARTNER], cells[DATE]};
   }
@@ -77,6 +80,11 @@ void RecordedDataFrame::refresh() {
   // A label takes a single one for the mark of a key.
   result_->setText(result.substitute("&", "&&"));
   workspace_->showErrors(getShell());
+}
+
+RecordedDataFrame::Place RecordedDataFrame::getCurrent() const {
+  const auto place = places_.find(list_->getCurrentId());
+  return place == places_.end() ? Place() : place->second;
 }
 
 long RecordedDataFrame::onSearch(FX::FXObject*, FX::FXSelector, void*) {
