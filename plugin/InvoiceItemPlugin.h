@@ -7,7 +7,7 @@ class MorvaneDatabase;
 namespace Brontel::Plugin::ItemData {
 
 /// Attaches an ItemDataList to every invoice item whose goods carry variables, and lets it take part in loading,
-/// saving, printing and exporting. Entities of other classes, and items without invoice, are left alone.
+/// saving, printing and exporting. Entities of other classes are left alone, and an item without invoice gets no list.
 class InvoiceItemPlugin : public EntityPlugin {
  public:
   using EntityPlugin::EntityPlugin;

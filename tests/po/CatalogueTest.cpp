@@ -1,6 +1,7 @@
 // Every language has every text, and each translation keeps what the program reads in it.
 
 #include <algorithm>
+#include <ostream>
 #include <regex>
 
 #include <gtest/gtest.h>
@@ -22,6 +23,11 @@ struct Catalogue {
 
   std::string path() const { return kFolder + language + "/" + domain + ".po"; }
 };
+
+// How the framework calls it.
+void PrintTo(const Catalogue& catalogue, std::ostream* out) {
+  *out << catalogue.language << ' ' << catalogue.domain;
+}
 
 std::vector<Catalogue> allCatalogues() {
   std::vector<Catalogue> all;
