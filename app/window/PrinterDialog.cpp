@@ -10,7 +10,9 @@ FXIMPLEMENT(PrinterDialog, FXDialogBox, nullptr, 0)
 
 namespace {
 
-constexpr FX::FXint kColumns = 42;
+constexpr FX::FXint kFewestColumns = 42;
+// Of the field's button and borders, and the scroll bar of the list.
+constexpr FX::FXint kBesides = 4;
 constexpr FX::FXint kMostCopies = 99;
 constexpr FX::FXint kDigits = 3;
 constexpr FX::FXint kMostVisible = 10;
@@ -18,6 +20,17 @@ constexpr const char* kSection = "Printing";
 
 FX::FXString usualPrinter() {
   return gettext("(a rendszer alapértelmezett nyomtatója)");
+}
+
+// So many that the names can be told from each other in the list, which is as wide as the field and has no bar to
+// scroll it sideways; as far as the screen allows.
+FX::FXint columnsFor(const FX::FXApp* app, const std::vector<FX::FXString>& printers) {
+  const FX::FXFont* font = app->getNormalFont();
+  FX::FXint widest = 0;
+  for (const FX::FXString& printer : printers) widest = std::max(widest, font->getTextWidth(printer));
+  const FX::FXint column = std::max(1, font->getTextWidth("8"));
+  const FX::FXint most = app->getRootWindow()->getWidth() * 2 / 3 / column;
+  return std::clamp(widest / column + kBesides, kFewestColumns, std::max(kFewestColumns, most));
 }
 
 }  // namespace
@@ -31,7 +44,7 @@ PrinterDialog::PrinterDialog(FX::FXWindow* owner, const std::vector<FX::FXString
                    FX::BUTTON_NORMAL | FX::BUTTON_INITIAL | FX::BUTTON_DEFAULT | FX::LAYOUT_RIGHT, 0, 0, 0, 0, 20, 20);
   auto* fields = new FX::FXMatrix(this, 2, FX::MATRIX_BY_COLUMNS | FX::LAYOUT_FILL_X);
   new FX::FXLabel(fields, gettext("&Nyomtató:"), nullptr, FX::LAYOUT_CENTER_Y);
-  printers_ = new FX::FXComboBox(fields, kColumns, nullptr, 0,
+  printers_ = new FX::FXComboBox(fields, columnsFor(getApp(), printers), nullptr, 0,
                                  FX::COMBOBOX_INSERT_LAST | FX::FRAME_SUNKEN | FX::FRAME_THICK | FX::LAYOUT_FILL_X);
   new FX::FXLabel(fields, gettext("&Példány:"), nullptr, FX::LAYOUT_CENTER_Y);
   copies_ = new FX::FXSpinner(fields, kDigits, nullptr, 0, FX::SPIN_NORMAL | FX::FRAME_SUNKEN | FX::FRAME_THICK);

@@ -287,6 +287,25 @@ TEST_F(PrintPreviewTest, offersThePrintersAndTheSystemsOwn) {
   EXPECT_EQ(boxes(), Texts());
 }
 
+TEST_F(PrintPreviewTest, thePrintersCanBeToldByTheEndsOfTheirNames) {
+  const std::string name = "Titkarsagi-szines-lezernyomtato-es-fenymasolo-a-harmadik-emeleten-";
+  const ToolFolder tools;
+  tools.add("lpstat", "for floor in 1 2 3 4 5 6 7 8 9 10 11 12; do echo " + name + "$floor; done");
+  FX::FXint room = 0;
+  preview(kComplete, [&](PrintPreview& preview) {
+    user.whenModal([&](FX::FXWindow& window) {
+      user.click(descendantsOf<FX::FXMenuButton>(&window).front());
+      const FX::FXWindow* pane = application->getPopupWindow();
+      ASSERT_NE(pane, nullptr);
+      room = descendantsOf<FX::FXList>(pane).front()->getViewportWidth();
+      user.key(FX::KEY_Escape);
+      user.key(FX::KEY_Escape);
+    });
+    user.click(findButton(preview, "Nyomtatás..."));
+  });
+  EXPECT_GE(room, application->getNormalFont()->getTextWidth((name + "12").c_str()));
+}
+
 TEST_F(PrintPreviewTest, showsWhatThePrintingSystemComplainsOf) {
   const ToolFolder tools;
   tools.add("lp", "echo 'lp: The printer or class does not exist.' >&2; exit 1");
