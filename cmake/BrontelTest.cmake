@@ -28,3 +28,13 @@ function(brontel_add_test name)
   brontel_add_executable(${name} ${ARGN})
   gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
 endfunction()
+
+# brontel_add_memory_test(NAME SOURCES...): the same, with an operator new that can be told to fail (AllocationLimit.h).
+function(brontel_add_memory_test name)
+  set(sources ${ARGN} ${PROJECT_SOURCE_DIR}/tests/support/AllocationLimit.cpp)
+  brontel_add_test(${name} ${sources})
+  if(BRONTEL_COVERAGE)
+    # Where all else is counted without exceptions.
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -fexceptions SKIP_PRECOMPILE_HEADERS ON)
+  endif()
+endfunction()
