@@ -10,7 +10,7 @@ import sys
 
 
 def read(files):
-    """{subject: {who: {size: (microseconds, counters)}}} in the order of the files; ends the program on a failure."""
+    """{subject: {who: {size: (shortest microseconds, counters)}}} in the order of the files; ends the program on a failure."""
     subjects = {}
     for name in files:
         with open(name, encoding="utf-8") as file:
@@ -19,12 +19,14 @@ def read(files):
             for run in sorted(runs, key=lambda run: (run["family_index"], run["per_family_instance_index"])):
                 if run.get("error_occurred"):
                     sys.exit(f"{run['name']}: {run['error_message']}")
-                if run.get("aggregate_name") != "median":
+                if run["run_type"] != "iteration":
                     continue
                 subject, rest = run["run_name"].split(":")
                 who, size = rest.split("/")
                 counters = {key: run[key] for key in ("bytes per cell", "statements") if key in run}
-                subjects.setdefault(subject, {}).setdefault(who, {})[int(size)] = (run["cpu_time"], counters)
+                sizes = subjects.setdefault(subject, {}).setdefault(who, {})
+                shortest, _ = sizes.get(int(size), (math.inf, None))
+                sizes[int(size)] = (min(run["cpu_time"], shortest), counters)
     return subjects
 
 

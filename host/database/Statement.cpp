@@ -54,7 +54,7 @@ void keepSpare(BoundValues&& values) {
   for (BoundValue& value : values) {
     value.isText = false;
     value.number = 0;
-    value.text.clear();
+    if (!value.text.empty()) value.text.clear();
   }
   spares().push_back(std::move(values));
 }
@@ -99,8 +99,9 @@ int Statement::execute(DataBaseValueLoader* loader, unsigned char) {
   bound_ = 0;
   bool done = false;
   if (database != nullptr && !text.empty()) {
-    // While a loader is at work, other statements can replace the text.
-    done = loader == nullptr ? database->run(text, values) : database->run(FXString(text), values, loader);
+    // While a loader is at work, other statements can replace a text that is not this one's own.
+    const bool stays = loader == nullptr || &text == &sql;
+    done = stays ? database->run(text, values, loader) : database->run(FXString(text), values, loader);
   }
   keepSpare(std::move(values));
   return done ? 1 : 0;
