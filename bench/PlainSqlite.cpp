@@ -13,8 +13,9 @@ namespace {
 }  // namespace
 
 PlainDatabase::PlainDatabase(const char* file) {
-  if (sqlite3_open_v2(file, &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK)
+  if (sqlite3_open_v2(file, &handle_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
     giveUp(handle_);
+  }
   sqlite3_busy_timeout(handle_, 5000);
   run("pragma foreign_keys=on");
 }
