@@ -105,8 +105,9 @@ bool InvoiceActions::storno(int id) {
   }
   const FXString question = fillIn(gettext("A stornó nem vonható vissza.\n\nStornózza ezt a számlát: %s?"), {number});
   if (!Dialogs::confirm(owner_, gettext("Stornózás"), question)) return false;
-  if (!workspace_.tellResult(owner_, workspace_.getRepository().changeStatus(*invoice, STATUS_STORNO), number))
+  if (!workspace_.tellResult(owner_, workspace_.getRepository().changeStatus(*invoice, STATUS_STORNO), number)) {
     return false;
+  }
   if (InvoiceEditForm* form = findForm(id)) form->reload();
   workspace_.notifyChanged();
   return true;

@@ -97,12 +97,7 @@ int Statement::execute(DataBaseValueLoader* loader, unsigned char) {
   // Taken out first: a loader may bind and run this very statement again.
   BoundValues values = std::exchange(values_, {});
   bound_ = 0;
-  bool done = false;
-  if (database != nullptr && !text.empty()) {
-    // While a loader is at work, other statements can replace a text that is not this one's own.
-    const bool stays = loader == nullptr || &text == &sql;
-    done = stays ? database->run(text, values, loader) : database->run(FXString(text), values, loader);
-  }
+  const bool done = database != nullptr && !text.empty() && database->run(text, values, loader);
   keepSpare(std::move(values));
   return done ? 1 : 0;
 }
