@@ -96,8 +96,7 @@ bool MorvaneDatabase::useWriteAheadJournal() {
   if (connection_ == nullptr || isReadOnly()) return false;
   // Nobody is waited for: the next program that finds the file alone switches it.
   sqlite3_busy_handler(connection_, nullptr, nullptr);
-  std::string_view ran;
-  const int code = runPrepared("pragma journal_mode=wal", {}, nullptr, ran);
+  const int code = runPrepared("pragma journal_mode=wal", {}, nullptr);
   sqlite3_busy_handler(connection_, &MorvaneDatabase::onBusy, this);
   switch (Brontel::Database::errorKindOf(code)) {
     case ErrorKind::None:
@@ -136,17 +135,17 @@ bool MorvaneDatabase::run(const FXString& sql, const BoundValues& values, DataBa
   }
   if (rollbackPending_ && !rollBack()) return false;
   std::string_view ran(sql.text(), static_cast<size_t>(sql.length()));
-  const int code = runPrepared(sql, values, loader, ran);
+  const int code = runPrepared(sql, values, loader, &ran);
   if (code == SQLITE_DONE || code == SQLITE_ROW) return true;
   return fail(code, FXString(ran.data(), static_cast<FX::FXint>(ran.size())));
 }
 
 int MorvaneDatabase::runPrepared(const FXString& sql, const BoundValues& values, DataBaseValueLoader* loader,
-                                 std::string_view& ran) {
+                                 std::string_view* ran) {
   int code = SQLITE_OK;
   PreparedStatement* cached = prepareCached(sql, code);
   if (cached == nullptr) return code;
-  ran = lastUsed_->first;
+  if (ran != nullptr) *ran = lastUsed_->first;
   if (!cached->isRunning()) {
     const std::chrono::milliseconds waitedBefore = waited_;
     code = cached->run(values, loader);

@@ -99,10 +99,10 @@ class MorvaneDatabase {
   bool fail(int sqliteCode, const FX::FXString& statement);
   bool transactionLost() const;
   Brontel::Database::PreparedStatement* prepareCached(const FX::FXString& sql, int& code);
-  /// Sets ran to a text of the statement that stays until the next one runs: the caller's can be gone or another by
+  /// Sets ran, if given, to a text of the statement that stays until the next one runs: the caller's can be another by
   /// then, since a loader may do as it likes. Left as it is when nothing ran.
   int runPrepared(const FX::FXString& sql, const Brontel::Database::BoundValues& values, DataBaseValueLoader* loader,
-                  std::string_view& ran);
+                  std::string_view* ran = nullptr);
   bool begin(const FX::FXString& sql);
   bool rollBack();
 
