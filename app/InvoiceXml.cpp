@@ -1,6 +1,7 @@
 #include "app/InvoiceXml.h"
 
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 #include <libintl.h>
@@ -34,13 +35,14 @@ void addItem(XMLBuilder::Element& items, InvoiceItem& item, int position, const 
 
 // Whether it is the database's file or one of those that the engine keeps beside it; those need not be there yet.
 bool isOfDatabase(const FXString& file, const FXString& database) {
-  const auto sameFile = [&](const char* ending) {
-    const std::filesystem::path own((database + ending).text());
-    std::error_code error;
-    return std::filesystem::equivalent(file.text(), own, error) ||
-           std::filesystem::weakly_canonical(file.text(), error) == std::filesystem::weakly_canonical(own, error);
-  };
-  return sameFile("") || sameFile("-wal") || sameFile("-shm") || sameFile("-journal");
+  std::error_code error;
+  const std::filesystem::path wanted = std::filesystem::weakly_canonical(file.text(), error);
+  // The engine keeps them beside the file itself, not beside a link to it.
+  const std::string own = std::filesystem::weakly_canonical(database.text(), error).string();
+  for (const char* ending : {"", "-wal", "-shm", "-journal"}) {
+    if (wanted == own + ending || std::filesystem::equivalent(wanted, own + ending, error)) return true;
+  }
+  return false;
 }
 
 }  // namespace

@@ -10,7 +10,10 @@ import sys
 
 
 def read(files):
-    """{subject: {who: {size: (shortest microseconds, counters)}}} in the order of the files; ends the program on a failure."""
+    """{subject: {who: {size: (microseconds, counters)}}} in the order of the files, of each the shortest run.
+
+    Ends the program on a failure.
+    """
     subjects = {}
     for name in files:
         with open(name, encoding="utf-8") as file:

@@ -2,16 +2,14 @@
 
 #include <string_view>
 
+#include "host/database/TextView.h"
+
 namespace Brontel::Database {
 
 namespace {
 
 // Programs have a handful of shapes; whoever makes up new ones all the time must not fill the memory.
 constexpr size_t kMostTexts = 256;
-
-std::string_view viewOf(const FX::FXString& text) {
-  return {text.text(), static_cast<size_t>(text.length())};
-}
 
 void append(std::string& key, const FX::FXString& part) {
   key.append(viewOf(part));

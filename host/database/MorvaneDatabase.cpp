@@ -12,11 +12,13 @@
 #include "host/database/NextId.h"
 #include "host/database/ReadOnlyFile.h"
 #include "host/database/StatementObserver.h"
+#include "host/database/TextView.h"
 
 using Brontel::Database::BoundValues;
 using Brontel::Database::ErrorKind;
 using Brontel::Database::FirstRowInteger;
 using Brontel::Database::PreparedStatement;
+using Brontel::Database::viewOf;
 using FX::FXString;
 
 namespace {
@@ -134,7 +136,7 @@ bool MorvaneDatabase::run(const FXString& sql, const BoundValues& values, DataBa
     return false;
   }
   if (rollbackPending_ && !rollBack()) return false;
-  std::string_view ran(sql.text(), static_cast<size_t>(sql.length()));
+  std::string_view ran = viewOf(sql);
   const int code = runPrepared(sql, values, loader, &ran);
   if (code == SQLITE_DONE || code == SQLITE_ROW) return true;
   return fail(code, FXString(ran.data(), static_cast<FX::FXint>(ran.size())));
@@ -178,7 +180,7 @@ bool MorvaneDatabase::rollBack() {
 }
 
 PreparedStatement* MorvaneDatabase::prepareCached(const FXString& sql, int& code) {
-  const std::string_view text(sql.text(), static_cast<size_t>(sql.length()));
+  const std::string_view text = viewOf(sql);
   // Thousands of times in a row it is the same one.
   if (lastUsed_ != nullptr && lastUsed_->first == text) return lastUsed_->second.get();
   const auto found = cache_.find(text);

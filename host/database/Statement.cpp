@@ -6,18 +6,16 @@
 #include "host/database/FirstRowInteger.h"
 #include "host/database/IntegerText.h"
 #include "host/database/MorvaneDatabase.h"
+#include "host/database/TextView.h"
 
 using Brontel::Database::BoundValue;
 using Brontel::Database::BoundValues;
+using Brontel::Database::viewOf;
 using FX::FXString;
 
 namespace {
 
-std::string_view viewOf(const FXString& text) {
-  return {text.text(), static_cast<size_t>(text.length())};
-}
-
-std::string_view viewOf(const char* text) {
+std::string_view nameOf(const char* text) {
   return text == nullptr ? std::string_view() : std::string_view(text);
 }
 
@@ -74,7 +72,7 @@ void Statement::setInt(const FXString& name, int value) {
 }
 
 void Statement::setInt(const char* name, int value) {
-  bindNumber(viewOf(name), value);
+  bindNumber(nameOf(name), value);
 }
 
 void Statement::setInt(const FXString& name, const FXString& value) {
@@ -88,7 +86,7 @@ void Statement::setString(const FXString& name, FXString value) {
 }
 
 void Statement::setString(const char* name, FXString value) {
-  bindText(viewOf(name), value);
+  bindText(nameOf(name), value);
 }
 
 int Statement::execute(DataBaseValueLoader* loader, unsigned char) {

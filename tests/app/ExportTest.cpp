@@ -166,6 +166,17 @@ TEST_F(ExportTest, TheDatabaseItselfIsNeverOverwritten) {
   }
 }
 
+TEST_F(ExportTest, TheJournalIsThatOfTheFileBehindALink) {
+  makeSample();
+  const std::string journal = database + "-wal";
+  const std::string link = directory.path("link.db");
+  std::filesystem::create_symlink(database, link);
+  const ProgramRun run = runProgram({"--database", link, "--plugins", pluginFolder(), "export", "1", "-o", journal});
+  EXPECT_EQ(run.exitCode, 2);
+  EXPECT_EQ(run.errors,
+            "brontel-host: Ez az adatbázis része, nem írható felül: " + journal + ". Adjon meg másik fájlt.\n");
+}
+
 TEST_F(ExportTest, AFileThatCannotBeReplacedStaysAsItWas) {
   makeSample();
   const std::string file = directory.write("invoice.xml", "old");

@@ -36,9 +36,5 @@ AllocationLimit::AllocationLimit(int allocations) {
 }
 
 AllocationLimit::~AllocationLimit() {
-  lift();
-}
-
-void AllocationLimit::lift() {
   allocationsLeft = kNone;
 }

@@ -8,7 +8,4 @@ class AllocationLimit {
   AllocationLimit(const AllocationLimit&) = delete;
   AllocationLimit& operator=(const AllocationLimit&) = delete;
   ~AllocationLimit();
-
-  /// Lets everything through again, for what a test itself has to allocate.
-  void lift();
 };

@@ -27,7 +27,7 @@ TEST(StatementMemoryTest, letsTheCallerKnowWhereItNeedsSome) {
   int refused = 0;
   int answer = 0;
   while (answer == 0) {
-    AllocationLimit limit(refused);
+    const AllocationLimit limit(refused);
     try {
       Statement statement(database.get(), "select %value + 1");
       statement.setInt("value", 41);
